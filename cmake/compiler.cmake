@@ -1,0 +1,20 @@
+# How every target of the project is compiled.
+
+# Sums are taken in the order in which they are written: the sense of a turn can hang on a last bit,
+# and pictures are compared to the byte. So no fused multiply-add and no fast-math.
+add_library(orvane_options INTERFACE)
+target_compile_options(orvane_options INTERFACE
+  -ffp-contract=off
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
+  -Wformat=2 -Wimplicit-fallthrough -Werror)
+
+if(ORVANE_SANITIZE)
+  target_compile_options(orvane_options INTERFACE
+    -fsanitize=${ORVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(orvane_options INTERFACE -fsanitize=${ORVANE_SANITIZE})
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()

@@ -1,0 +1,40 @@
+// A window: a table of controls, its title, its place and whether it shows.
+#pragma once
+
+#include <span>
+
+#include "controls/control.h"
+
+namespace orvane {
+
+// Whoever shows the controls: hears of each change after it was made.
+class ControlWatcher {
+ public:
+  virtual ~ControlWatcher() = default;
+  virtual void Changed(Control& control, Aspect aspect) = 0;
+};
+
+// Pointer shapes of a window, numbered as they are set.
+inline constexpr int kPointerDefault = 0;
+inline constexpr int kPointerCross = 2;
+inline constexpr int kPointerHourglass = 11;
+
+class Window : public Control {
+ public:
+  // The first row of the table is the window's own. `prefix` is what stands before the names of its
+  // controls from outside: empty for the main window, "Content." for another.
+  Window(std::span<const ControlRow> table, std::string_view prefix);
+
+  Watched<int, Aspect::Pointer> MousePointer;
+  const std::span<const ControlRow> Table;
+  const std::string Prefix;
+  std::vector<Control*> Controls;      // in the order in which they stack, lowest first
+  ControlWatcher* Watcher = nullptr;
+
+  void Show();   // shows it in front of the others
+  void Hide() { Visible = false; }
+  // The control of that name without prefix, "X_Tag(1)"; nullptr when there is none.
+  Control* Find(std::string_view name) const;
+};
+
+}  // namespace orvane

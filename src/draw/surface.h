@@ -1,0 +1,68 @@
+// The drawing surface: the properties and calls of a picture box under their own names. A call
+// appends one stroke to the surface's list; no pixel is made before somebody looks (draw/raster.h).
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "controls/kinds.h"
+#include "draw/picture.h"
+
+namespace orvane {
+
+// Hears every call, in order: the replay's trace.
+class SurfaceTrace {
+ public:
+  virtual ~SurfaceTrace() = default;
+  virtual void PictureSet(int background) = 0;      // index of the background picture, -1: none
+  virtual void BackColorSet(Colour colour) = 0;
+  virtual void Drawn(const Stroke& stroke, std::string_view text) = 0;
+};
+
+class PictureBox : public Control {
+ public:
+  // `width` and `height` are the inner size in surface pixels.
+  PictureBox(Window& window, std::string_view name, int width, int height);
+
+  // Pen and text state, set before a call that uses it.
+  int ScaleMode = 3;            // 3: pixels, and nothing else is set
+  int DrawWidth = 1;
+  int DrawStyle = 0;            // 0 solid, 2 dotted (width 1 only)
+  int FillStyle = 0;            // 0 filled, 1 not
+  Colour FillColor = 0;
+  Colour ForeColor = 0;         // text, and the outline of a circle
+  double CurrentX = 0, CurrentY = 0;
+
+  // Everything drawn so far is wiped, and the change event of the picture runs. `background` is the
+  // index that a trace prints, -1 with no picture.
+  void ResetSurface(std::shared_ptr<const Bitmap> picture, int background);
+  void ResetSurface() { ResetSurface(nullptr, -1); }
+  void Cls();                   // wipes the strokes; no change event
+
+  Colour PlainColour() const;   // BackColor as last set
+  void SetBackColor(Colour colour);
+
+  // Each coordinate is narrowed to 32 bits here. The end of a line becomes the current position.
+  void Line(double x1, double y1, double x2, double y2, Colour colour);
+  void Circle(double x, double y, double radius);
+  // A circle whose outline has a colour of its own instead of ForeColor.
+  void Circle(double x, double y, double radius, Colour outline);
+  void Print(std::string_view text);
+
+  int ScaleWidth() const;       // inner size in surface pixels
+  int ScaleHeight() const;
+
+  // The content as it stands. Costs nothing; a later call leaves it as it is.
+  std::shared_ptr<const Picture> Image() const;
+
+  SurfaceTrace* Trace = nullptr;
+
+ private:
+  Picture& Fresh();             // the list, for writing: its own copy if a snapshot shares it
+  void Append(const Stroke& stroke, std::string_view text);
+
+  std::shared_ptr<Picture> content_;
+  std::shared_ptr<Picture> spare_;   // a list dropped at a wipe, kept for its memory
+};
+
+}  // namespace orvane

@@ -1,0 +1,73 @@
+#include "runtime/number_text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "runtime/arithmetic.h"
+#include "runtime/failure.h"
+
+namespace orvane {
+namespace {
+
+std::string_view WithoutLeadingBlanks(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  return first == std::string_view::npos ? std::string_view() : text.substr(first);
+}
+
+// from_chars takes a minus but no plus.
+std::string_view WithoutPlus(std::string_view text) {
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  return text;
+}
+
+// to_chars and not the printf family, which would take a decimal comma from the locale.
+std::string Fixed(float value, int decimals) {
+  std::array<char, 128> text{};
+  const auto result = std::to_chars(text.data(), text.data() + text.size(), value,
+                                    std::chars_format::fixed, decimals);
+  return {text.data(), result.ptr};
+}
+
+}  // namespace
+
+double LenientNumber(std::string_view text) {
+  text = WithoutPlus(WithoutLeadingBlanks(text));
+  double value = 0.0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  return error == std::errc() && std::isfinite(value) ? value : 0.0;
+}
+
+Int16 StrictInt16(std::string_view text) {
+  std::string_view number = WithoutLeadingBlanks(text);
+  number = number.substr(0, number.find_last_not_of(' ') + 1);
+  number = WithoutPlus(number);
+  double value = 0.0;
+  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (error == std::errc::result_out_of_range) FailOverflow();
+  const bool whole_text_read = !number.empty() && end == number.data() + number.size();
+  if (error != std::errc() || !whole_text_read || !std::isfinite(value)) FailConversion(text);
+  return RoundToInt16(value);
+}
+
+std::string SingleText(double value) {
+  const auto single = static_cast<float>(value);
+  const int leading = single == 0.0F ? 0 : static_cast<int>(std::floor(std::log10(std::fabs(single))));
+  return Fixed(single, std::max(0, 6 - leading));
+}
+
+std::string TwoDecimals(double value) {
+  const auto single = static_cast<float>(value);
+  std::string digits = Fixed(std::fabs(single), 2);
+  if (digits.find('.') == 1) digits.insert(0, "0");
+  const bool is_zero = digits.find_first_not_of("0.") == std::string::npos;
+  return single < 0.0F && !is_zero ? "-" + digits : digits;
+}
+
+std::string Com2Pnt(std::string text) {
+  std::replace(text.begin(), text.end(), ',', '.');
+  return text;
+}
+
+}  // namespace orvane
