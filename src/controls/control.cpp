@@ -81,6 +81,10 @@ bool Control::IsOpenToUser() const {
   return Owner.Visible;
 }
 
+bool CaptionSaysOn(std::string_view caption) {
+  return caption.ends_with("On") || caption.ends_with("ON") || caption == "D/L Str";
+}
+
 void TellWatcher(Control& control, Aspect aspect) {
   if (control.Owner.Watcher != nullptr) control.Owner.Watcher->Changed(control, aspect);
 }

@@ -17,8 +17,8 @@ namespace orvane {
 class Window;
 
 enum class ControlKind : std::uint8_t {
-  Panel, Button, Toggle, List, ScrollBar, TextBox, PictureBox, ImageBox, Label, Link, Line, Timer,
-  MenuEntry, FileList, Frame, Window,
+  Panel, Button, Toggle, List, ScrollBar, TextBox, PictureBox, ImageBox, Label, Link, Line, Ornament,
+  Timer, MenuEntry, FileList, Frame, Window,
 };
 
 // A place in twips, from the top left of the container; 15 twips are a pixel at 100 per cent.
@@ -37,16 +37,16 @@ struct Look {
 // A row of a window's table: what a control is when the window is made. An element of an array has
 // its index in its name, "X_Tag(1)".
 struct ControlRow {
-  std::string_view Name;
+  std::string_view Name{};
   ControlKind Kind = ControlKind::Panel;
-  std::string_view Parent;    // name of the container; empty: the window itself
-  std::string_view Caption;   // letters behind "&" are mnemonics
-  Place At;
-  Look Style;
+  std::string_view Parent{};    // name of the container; empty: the window itself
+  std::string_view Caption{};   // letters behind "&" are mnemonics
+  Place At{};
+  Look Style{};
   bool Visible = true;
   bool Enabled = true;
-  std::string_view Tip;       // one clause, verb first: what a click does
-  std::string_view Spoken;    // name for a screen reader where the caption is none
+  std::string_view Tip{};       // one clause, verb first: what a click does
+  std::string_view Spoken{};    // name for a screen reader where the caption is none
   int TabStop = 0;            // place in the tab order, from 1; 0 takes no focus
 };
 
@@ -91,5 +91,8 @@ class Control {
  private:
   std::vector<std::pair<EventKind, std::function<void(const Event&)>>> handlers_;
 };
+
+// A toggle is drawn as pressed while its caption says on. It changes no state.
+bool CaptionSaysOn(std::string_view caption);
 
 }  // namespace orvane

@@ -15,6 +15,7 @@ enum class EventKind {
   Change,       // the value of a bar, or the picture of a picture box, was set
   Scroll,       // the thumb of a bar moves under the pointer
   Tick,         // the interval of a timer is over
+  Failed,       // an operation that began at this control ended in a failure
 };
 
 // Pointer buttons, as they are counted in an event; a Move carries their sum.

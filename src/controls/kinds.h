@@ -37,6 +37,18 @@ class List : public Control {
   }
 };
 
+// One of the three lists of the music chooser. What stands in them is the platform's; the logic keeps
+// the folder and the pattern that are shown, and the file under the pointer.
+class FileList : public Control {
+ public:
+  FileList(Window& window, std::string_view name)
+      : Control(window, name), Path(*this, ""), Pattern(*this, ""), FileName(*this, "") {}
+
+  Watched<std::string, Aspect::Rows> Path;      // folder whose content is listed
+  Watched<std::string, Aspect::Rows> Pattern;   // "*.wav;*.au"
+  Watched<std::string, Aspect::Value> FileName; // chosen file
+};
+
 class TextBox : public Control {
  public:
   TextBox(Window& window, std::string_view name)

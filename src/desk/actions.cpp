@@ -1,0 +1,111 @@
+#include "desk/actions.h"
+
+#include "runtime/failure.h"
+
+namespace orvane {
+namespace {
+
+std::string WithoutMnemonic(std::string_view caption) {
+  std::string text;
+  for (const char letter : caption) {
+    if (letter != '&') text += letter;
+  }
+  return text;
+}
+
+// What the user knows the control as: "Distance", "Enlarge".
+std::string CommandName(const Control& control) {
+  if (!control.Row.Spoken.empty()) return std::string(control.Row.Spoken);
+  const std::string caption = WithoutMnemonic(control.Caption.Get());
+  const auto first = caption.find_first_not_of(' ');
+  return first == std::string::npos ? control.FullName() : caption.substr(first);
+}
+
+// The one place that catches a failure. What the operation had done so far stays done.
+template <class Operation>
+void RunToItsEnd(Orvane_Desk& desk, Control& control, Operation operation) {
+  try {
+    operation();
+  } catch (const Failure& failure) {
+    control.Raise({.Kind = EventKind::Failed});
+    desk.platform.FailureBox(CommandName(control) + " could not be finished: " + failure.what() +
+                             ".");
+  }
+}
+
+bool MayAct(const Control& control, Reach reach) {
+  return reach == Reach::Forced || control.IsOpenToUser();
+}
+
+void Deliver(Orvane_Desk& desk, Control& control, const Event& event, Reach reach) {
+  if (!MayAct(control, reach)) return;
+  RunToItsEnd(desk, control, [&] { control.Raise(event); });
+}
+
+}  // namespace
+
+void Click(Orvane_Desk& desk, Control& control, Reach reach) {
+  Deliver(desk, control, {.Kind = EventKind::Click}, reach);
+}
+
+void DoubleClick(Orvane_Desk& desk, Control& control, Reach reach) {
+  Deliver(desk, control, {.Kind = EventKind::DoubleClick}, reach);
+}
+
+void SelectRow(Orvane_Desk& desk, List& list, int row, Reach reach) {
+  if (!MayAct(list, reach)) return;
+  const bool is_row = row >= 0 && row < static_cast<int>(list.Rows.Get().size());
+  list.ListIndex = is_row ? row : -1;
+  RunToItsEnd(desk, list, [&] { list.Raise({.Kind = EventKind::Click}); });
+}
+
+void Press(Orvane_Desk& desk, Control& control, int button, float x, float y, Reach reach) {
+  Deliver(desk, control, {.Kind = EventKind::Press, .Button = button, .X = x, .Y = y}, reach);
+}
+
+void Move(Orvane_Desk& desk, Control& control, int button, float x, float y, Reach reach) {
+  Deliver(desk, control, {.Kind = EventKind::Move, .Button = button, .X = x, .Y = y}, reach);
+}
+
+void Release(Orvane_Desk& desk, Control& control, int button, float x, float y, Reach reach) {
+  Deliver(desk, control, {.Kind = EventKind::Release, .Button = button, .X = x, .Y = y}, reach);
+}
+
+void PointerEnters(Orvane_Desk& desk, Control& control) {
+  Deliver(desk, control, {.Kind = EventKind::Enter}, Reach::AsUser);
+}
+
+void FocusComes(Orvane_Desk& desk, Control& control) {
+  Deliver(desk, control, {.Kind = EventKind::Focus}, Reach::AsUser);
+}
+
+void StepBar(Orvane_Desk& desk, ScrollBar& bar, int value, Reach reach) {
+  if (!MayAct(bar, reach)) return;
+  RunToItsEnd(desk, bar, [&] { bar.StepTo(value); });
+}
+
+void DragBar(Orvane_Desk& desk, ScrollBar& bar, int value, Reach reach) {
+  if (!MayAct(bar, reach)) return;
+  RunToItsEnd(desk, bar, [&] { bar.DragTo(value); });
+}
+
+void DropBar(Orvane_Desk& desk, ScrollBar& bar, Reach reach) {
+  if (!MayAct(bar, reach)) return;
+  RunToItsEnd(desk, bar, [&] { bar.Drop(); });
+}
+
+void TypeText(Orvane_Desk& desk, TextBox& box, std::string_view text, Reach reach) {
+  (void)desk;
+  if (MayAct(box, reach)) box.Text = std::string(text);
+}
+
+void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach) {
+  Deliver(desk, control, {.Kind = EventKind::Key, .KeyCode = key_code}, reach);
+}
+
+void Tick(Orvane_Desk& desk, Timer& timer, Reach reach) {
+  if (reach == Reach::AsUser && !timer.Enabled) return;
+  RunToItsEnd(desk, timer, [&] { timer.Raise({.Kind = EventKind::Tick}); });
+}
+
+}  // namespace orvane

@@ -1,0 +1,42 @@
+// Where events come in: every action of a user and every tick passes here, from any skin. An action
+// on a control that is not open to the user does nothing; a failure of the operation that it starts
+// ends here, in a box, and the program goes on.
+#pragma once
+
+#include <string_view>
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// Forced skips the question whether the control is enabled and visible.
+enum class Reach { AsUser, Forced };
+
+void Click(Orvane_Desk& desk, Control& control, Reach reach = Reach::AsUser);
+void DoubleClick(Orvane_Desk& desk, Control& control, Reach reach = Reach::AsUser);
+// Chooses row `row` of a list, -1 for none, and clicks it.
+void SelectRow(Orvane_Desk& desk, List& list, int row, Reach reach = Reach::AsUser);
+
+// The pointer over a control, in its own pixels; `button` of a move is the sum of those held.
+void Press(Orvane_Desk& desk, Control& control, int button, float x, float y,
+           Reach reach = Reach::AsUser);
+void Move(Orvane_Desk& desk, Control& control, int button, float x, float y,
+          Reach reach = Reach::AsUser);
+void Release(Orvane_Desk& desk, Control& control, int button, float x, float y,
+             Reach reach = Reach::AsUser);
+void PointerEnters(Orvane_Desk& desk, Control& control);
+void FocusComes(Orvane_Desk& desk, Control& control);
+
+// Scroll bars: an arrow or the page area; the thumb held; the thumb let go.
+void StepBar(Orvane_Desk& desk, ScrollBar& bar, int value, Reach reach = Reach::AsUser);
+void DragBar(Orvane_Desk& desk, ScrollBar& bar, int value, Reach reach = Reach::AsUser);
+void DropBar(Orvane_Desk& desk, ScrollBar& bar, Reach reach = Reach::AsUser);
+
+void TypeText(Orvane_Desk& desk, TextBox& box, std::string_view text,
+              Reach reach = Reach::AsUser);
+void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach = Reach::AsUser);
+
+// One tick of a timer, if it is enabled. No user's action: it comes with its window hidden, too.
+void Tick(Orvane_Desk& desk, Timer& timer, Reach reach = Reach::AsUser);
+
+}  // namespace orvane

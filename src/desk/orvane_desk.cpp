@@ -1,0 +1,21 @@
+#include "desk/orvane_desk.h"
+
+#include "shell/start_up.h"
+#include "shell/wiring.h"
+
+namespace orvane {
+
+Orvane_Desk::Orvane_Desk(Platform& outside) : platform(outside) {
+  WireControls(*this);
+  Orvane_Desk_Load(*this);
+}
+
+Control* Orvane_Desk::FindControl(std::string_view full_name) const {
+  for (const Window* window : windows) {
+    if (!full_name.starts_with(window->Prefix)) continue;
+    if (Control* control = window->Find(full_name.substr(window->Prefix.size()))) return control;
+  }
+  return nullptr;
+}
+
+}  // namespace orvane

@@ -1,0 +1,21 @@
+#include "shell/start_up.h"
+
+#include "runtime/arithmetic.h"
+
+namespace orvane {
+
+void Orvane_Desk_Load(Orvane_Desk& desk) {
+  desk.main.RCDP.Enabled = false;
+  desk.main.Picture1.ResetSurface();
+  desk.molecule.MoleculeReady = 0;  // the wipe above has set it
+  desk.main.File1.Pattern = "*.wav;*.aud;*.wa;*.au";
+  desk.main.DWn.Enabled = false;
+  desk.main.X_Tag[1].Style = {1, 4};
+  desk.view.AxisX = 0;
+  desk.view.AxisY = 1;
+  desk.view.AxisZ = 0;
+  desk.view.HalfW = RoundToInt16(desk.main.Picture1.ScaleWidth() / 2.0);
+  desk.view.HalfH = RoundToInt16(desk.main.Picture1.ScaleHeight() / 2.0);
+}
+
+}  // namespace orvane

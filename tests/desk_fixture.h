@@ -1,0 +1,21 @@
+// A desk for a test, with the main window showing as after the start chain.
+#pragma once
+
+#include <memory>
+
+#include "desk/actions.h"
+#include "desk/orvane_desk.h"
+#include "fake_platform.h"
+
+namespace orvane {
+
+struct DeskAtWork {
+  FakePlatform platform;
+  // The desk is megabytes large, so it lives on the heap.
+  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(platform);
+  Orvane_Desk& desk = *owned;
+
+  DeskAtWork() { desk.main.Visible = true; }
+};
+
+}  // namespace orvane
