@@ -1,0 +1,20 @@
+// A picture's strokes as text, a line each, for tests that say what a painter draws.
+#pragma once
+
+#include <string>
+
+#include "draw/picture.h"
+
+namespace orvane {
+
+// "#rrggbb"
+std::string ColourAsText(Colour colour);
+
+// In call order, each with a line feed behind it:
+//   Line X1 Y1 X2 Y2 #rrggbb wN          and " dotted" for DrawStyle 2
+//   Circle X Y RADIUS #fill on #outline wN      the fill is "empty" with FillStyle 1
+//   Print X Y #rrggbb "text"
+// Coordinates are written with as few digits as tell the 32-bit value.
+std::string StrokesAsText(const Picture& picture);
+
+}  // namespace orvane
