@@ -1,0 +1,151 @@
+// What `run` and `test` do before they build, played on a made-up machine: a folder of small
+// scripts stands in for dpkg, apt and sudo, and what they were asked is written down.
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include "house/source_tree.h"
+
+namespace orvane::house {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+namespace fs = std::filesystem;
+
+class Preparing : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    std::string folder = (fs::temp_directory_path() / "orvane_prepare_XXXXXX").string();
+    ASSERT_NE(::mkdtemp(folder.data()), nullptr);
+    machine_ = folder;
+    for (const char* tool : {"awk", "mktemp", "cat", "rm", "env", "bash"}) {
+      const fs::path real = fs::exists(fs::path("/usr/bin") / tool) ? "/usr/bin" : "/bin";
+      fs::create_symlink(real / tool, machine_ / tool);
+    }
+    Has("apt-get", "echo \"apt-get $*\" >> $MACHINE/asked");
+    Has("dpkg-query", "cat $MACHINE/installed");
+    Write("asked", "");
+    Write("installed", "");
+    UserIs(0);
+  }
+  void TearDown() override { fs::remove_all(machine_); }
+
+  void Write(const std::string& name, const std::string& text) {
+    std::ofstream(machine_ / name) << text;
+  }
+  void Has(const std::string& command, const std::string& script) {
+    Write(command, "#!/bin/bash\n" + script + "\n");
+    fs::permissions(machine_ / command,
+                    fs::perms::owner_all | fs::perms::others_exec | fs::perms::others_read);
+  }
+  void UserIs(int number) { Has("id", "echo " + std::to_string(number)); }
+  void HasSudo() { Has("sudo", "echo sudo >> $MACHINE/asked; exec \"$@\""); }
+
+  // Runs the words after the common part was sourced, as `run` and `test` do.
+  void Play(const std::string& words) {
+    const std::string script =
+        "set -euo pipefail; root=" ORVANE_SOURCE_DIR "; source $root/tools/prepare.sh; " + words;
+    const std::string command = "MACHINE=" + machine_.string() + " PATH=" + machine_.string() +
+                                " /bin/bash -c '" + script + "' 2>&1";
+    std::FILE* pipe = ::popen(command.c_str(), "r");
+    ASSERT_NE(pipe, nullptr);
+    std::array<char, 512> part{};
+    Said.clear();
+    while (std::fgets(part.data(), part.size(), pipe) != nullptr) Said += part.data();
+    ExitStatus = WEXITSTATUS(::pclose(pipe));
+    std::ifstream file(machine_ / "asked");
+    Asked.assign(std::istreambuf_iterator<char>(file), {});
+  }
+
+  std::string Said;   // both outputs of the words
+  std::string Asked;  // what apt-get and sudo were started with
+  int ExitStatus = -1;
+
+ private:
+  fs::path machine_;
+};
+
+TEST_F(Preparing, AsksAptForNothingWhenNothingIsMissing) {
+  Write("installed", "installed:cmake installed:g++ ");
+
+  Play("need_packages cmake g++");
+
+  EXPECT_EQ(ExitStatus, 0);
+  EXPECT_EQ(Asked, "");
+  EXPECT_EQ(Said, "");
+}
+
+TEST_F(Preparing, AsksAptOnlyForWhatIsMissing) {
+  Write("installed", "installed:cmake ");
+
+  Play("need_packages cmake g++");
+
+  EXPECT_EQ(ExitStatus, 0);
+  EXPECT_THAT(Asked, HasSubstr("update"));
+  EXPECT_THAT(Asked, HasSubstr("install g++\n"));
+}
+
+TEST_F(Preparing, TakesAPackageThatWasRemovedButLeftItsFilesForMissing) {
+  Write("installed", "config-files:g++ ");
+
+  Play("need_packages g++");
+
+  EXPECT_THAT(Asked, HasSubstr("install g++\n"));
+}
+
+TEST_F(Preparing, TakesANameForMissingThatOnlyBeginsAnInstalledOne) {
+  Write("installed", "installed:g++-12 ");
+
+  Play("need_packages g++");
+
+  EXPECT_THAT(Asked, HasSubstr("install g++\n"));
+}
+
+TEST_F(Preparing, UsesSudoWhenTheUserIsNotRoot) {
+  UserIs(1000);
+  HasSudo();
+
+  Play("need_packages g++");
+
+  EXPECT_EQ(ExitStatus, 0);
+  EXPECT_THAT(Asked, HasSubstr("sudo\napt-get"));
+}
+
+TEST_F(Preparing, SaysWhatToTypeWhenTheUserIsNeitherRootNorHasSudo) {
+  UserIs(1000);
+
+  Play("need_packages g++");
+
+  EXPECT_EQ(ExitStatus, 1);
+  EXPECT_EQ(Asked, "");
+  EXPECT_THAT(Said, HasSubstr("missing: g++"));
+  EXPECT_THAT(Said, HasSubstr("apt-get install g++"));
+}
+
+TEST_F(Preparing, ShowsWhatAptSaidWhenItFails) {
+  Has("apt-get", "echo no network here; exit 100");
+
+  Play("need_packages g++; echo went on");
+
+  EXPECT_EQ(ExitStatus, 1);
+  EXPECT_THAT(Said, HasSubstr("no network here"));
+  EXPECT_THAT(Said, Not(HasSubstr("went on")));
+}
+
+TEST_F(Preparing, ReadsOneGroupOfTheListAtATime) {
+  Play("packages_of test");
+
+  EXPECT_THAT(Said, HasSubstr("libgtest-dev\n"));
+  EXPECT_THAT(Said, Not(HasSubstr("cmake\n")));
+  EXPECT_THAT(Said, Not(HasSubstr("#")));
+}
+
+}  // namespace
+}  // namespace orvane::house

@@ -1,0 +1,95 @@
+#include "house/source_tree.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <sstream>
+
+namespace orvane::house {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kRoot = ORVANE_SOURCE_DIR;
+
+// The words between back quotes: names of folders and files in the map.
+std::vector<std::string> Quoted(const std::string& cell) {
+  static const std::regex name("`([^`]*)`");
+  std::vector<std::string> names;
+  for (auto it = std::sregex_iterator(cell.begin(), cell.end(), name); it != std::sregex_iterator();
+       ++it) {
+    names.push_back((*it)[1]);
+  }
+  return names;
+}
+
+std::vector<std::string> Cells(const std::string& row) {
+  std::vector<std::string> cells;
+  std::istringstream text(row.substr(1));
+  for (std::string cell; std::getline(text, cell, '|');) cells.push_back(cell);
+  return cells;
+}
+
+}  // namespace
+
+std::string RoomOf(std::string_view path) { return std::string(path.substr(0, path.find('/'))); }
+
+std::vector<std::string> RoomsOnDisk() {
+  std::vector<std::string> rooms;
+  for (const auto& entry : fs::directory_iterator(kRoot / "src")) {
+    if (entry.is_directory()) rooms.push_back(entry.path().filename().string());
+  }
+  std::sort(rooms.begin(), rooms.end());
+  return rooms;
+}
+
+std::vector<Inclusion> Inclusions() {
+  static const std::regex include(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
+  std::vector<Inclusion> found;
+  for (const auto& entry : fs::recursive_directory_iterator(kRoot / "src")) {
+    const auto kind = entry.path().extension();
+    if (kind != ".h" && kind != ".cpp") continue;
+    const std::string from = fs::relative(entry.path(), kRoot / "src").generic_string();
+    std::ifstream file(entry.path());
+    int number = 0;
+    for (std::string line; std::getline(file, line);) {
+      ++number;
+      std::smatch match;
+      if (std::regex_search(line, match, include)) {
+        found.push_back({from, match[2], match[1] == "\"", number});
+      }
+    }
+  }
+  return found;
+}
+
+std::string ReadProjectFile(std::string_view path) {
+  std::ifstream file(kRoot / path);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+bool ProjectHas(std::string_view path) { return fs::exists(kRoot / path); }
+
+std::vector<MapRow> Map() {
+  // | `core` | what it owns | `core/molecule.h` | `runtime`, `controls` |
+  constexpr std::size_t kRoom = 0, kChief = 2, kMayInclude = 3, kColumns = 4;
+  std::vector<MapRow> rows;
+  std::istringstream text(ReadProjectFile("docs/architecture.md"));
+  std::string line;
+  while (std::getline(text, line) && !line.starts_with("| Folder |")) {
+  }
+  std::getline(text, line);  // the rule under the heads
+  while (std::getline(text, line) && line.starts_with("|")) {
+    const auto cells = Cells(line);
+    if (cells.size() < kColumns || Quoted(cells[kRoom]).empty()) continue;
+    const auto chief = Quoted(cells[kChief]);
+    rows.push_back({Quoted(cells[kRoom]).front(), chief.empty() ? "" : chief.front(),
+                    Quoted(cells[kMayInclude]),
+                    cells[kMayInclude].find("every room") != std::string::npos});
+  }
+  return rows;
+}
+
+}  // namespace orvane::house

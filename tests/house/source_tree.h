@@ -1,0 +1,40 @@
+// The project's own files, read as data: what the tests of the house look at.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvane::house {
+
+// One #include of a source or header under src/.
+struct Inclusion {
+  std::string From;     // "core/loader.cpp", relative to src/
+  std::string Target;   // what stands between the brackets or the quotes
+  bool Quoted = false;  // "room/file.h", one of ours
+  int Line = 0;
+};
+
+// "core" of "core/loader.cpp"; all of it where there is no folder.
+std::string RoomOf(std::string_view path);
+
+// The folders directly under src/, sorted.
+std::vector<std::string> RoomsOnDisk();
+
+// Every #include of every .h and .cpp under src/.
+std::vector<Inclusion> Inclusions();
+
+// The text of a file of the project; empty when there is none.
+std::string ReadProjectFile(std::string_view path);
+bool ProjectHas(std::string_view path);
+
+// A row of the table of folders in docs/architecture.md.
+struct MapRow {
+  std::string Room;
+  std::string ChiefHeader;              // "core/molecule.h"; empty where a room has none
+  std::vector<std::string> MayInclude;  // other rooms; its own goes without saying
+  bool EveryRoom = false;               // "every room": all but the skins
+};
+std::vector<MapRow> Map();
+
+}  // namespace orvane::house
