@@ -26,6 +26,9 @@ class FixedText {
   friend constexpr bool operator==(const FixedText& a, std::string_view b) {
     return static_cast<std::string_view>(a) == b;
   }
+  friend constexpr bool operator==(const FixedText& a, const char* b) {
+    return a == std::string_view(b);
+  }
   friend constexpr bool operator==(const FixedText& a, const FixedText& b) {
     return static_cast<std::string_view>(a) == static_cast<std::string_view>(b);
   }

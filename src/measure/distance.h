@@ -1,0 +1,12 @@
+// The distance of two points, and the readout of it.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// From PointA to PointB into DistResult, Angstrom. Empties the measure panel if anything stands in
+// it, so a bond scan clears the last readout.
+void Distance(Orvane_Desk& desk);
+
+}  // namespace orvane

@@ -1,0 +1,13 @@
+// Hydrogen bonds: pairs of atoms whose names match a small table and whose distance lies in a
+// window. No hydrogen atom is looked at, no angle and no residue.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// Fills the list from the working coordinates, which at a load are still the as-read ones. Leaves
+// PointA at the last atom and PointB at the last but one; a later turn takes its sense from them.
+void FindHydrogenBonds(Orvane_Desk& desk);
+
+}  // namespace orvane
