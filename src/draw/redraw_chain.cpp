@@ -1,10 +1,13 @@
 #include "draw/redraw_chain.h"
 
+#include "draw/atom_painter.h"
+#include "draw/fast_wire.h"
+
 namespace orvane {
 namespace {
 
-// A newly loaded structure fills half of the surface in its largest direction. MinX and MinY hold
-// the centre of the box here; the sums keep this order.
+// After FitBox the names MinX, MinY hold the centre of the box, and FitScale is 1 / its largest
+// extent: a structure just loaded fills half of the surface.
 void ProjectAtoms(Molecule& molecule, const View& view) {
   for (int i = 1; i <= molecule.AtomCount; ++i) {
     molecule.ScrX[i] = (molecule.CurX[i] - molecule.MinX) * molecule.FitScale * view.HalfW +
@@ -19,6 +22,15 @@ void ProjectAtoms(Molecule& molecule, const View& view) {
 void RedrawView(Orvane_Desk& desk) {
   desk.main.Picture1.ScaleMode = 3;
   ProjectAtoms(desk.molecule, desk.view);
+  if (desk.drawing.FastWire == 1) {
+    desk.main.Picture1.Cls();
+    PaintFastWire(desk);
+  }
+  RepaintPasses(desk);
+}
+
+void RepaintPasses(Orvane_Desk& desk) {
+  if (desk.drawing.DrawFamily == 0) PaintAtomFamily(desk);
 }
 
 }  // namespace orvane

@@ -1,0 +1,13 @@
+// A wire frame on whole pixels. Reached only when FastWire is 1, which no command sets; kept ready.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// One line a bond, in the colour and width left on the surface. Point b is the place of the atom
+// that bears the number of bond b, so a bond may join points that are not filled yet and stand at
+// 0, 0. Good for 1000 points; a number above fails.
+void PaintFastWire(Orvane_Desk& desk);
+
+}  // namespace orvane
