@@ -1,6 +1,12 @@
 #include "shell/wiring.h"
 
+#include "draw/size_keys.h"
 #include "shell/panels.h"
+#include "shell/pointer_shape.h"
+#include "view/bars.h"
+#include "view/pointer.h"
+#include "view/reset.h"
+#include "view/spin.h"
 
 namespace orvane {
 namespace {
@@ -22,6 +28,50 @@ constexpr Wire kWires[] = {
     {"OpTs",       Click,   TopMenu_Click},
     {"DWn",        Click,   TopMenu_Click},
     {"Exp",        Click,   TopMenu_Click},
+    {"AA_Lst",      Enter,   DropCross},
+    {"Pro_Lst",     Enter,   DropCross},
+    {"Nuc_Lst",     Enter,   DropCross},
+    {"DNA_Lst",     Enter,   DropCross},
+    {"Bt3_Ang",     Enter,   DropCross},
+    {"Bt3_Dts",     Enter,   DropCross},
+    {"Bt3_Trg",     Enter,   DropCross},
+    {"Bt3_Reset",   Enter,   DropCross},
+    {"R_G_Stereo",  Enter,   DropCross},
+    {"Label1",      Enter,   DropCross},
+    {"P_Auto_Rotate", Enter,   DropCross},
+    {"P_Dst_Show",  Enter,   DropCross},
+    {"P_Pic1",      Enter,   DropCross},
+    {"Panel3D1",    Enter,   DropCross},
+    {"Panel3D2",    Enter,   DropCross},
+    {"Panel3D3",    Enter,   DropCross},
+    {"Panel3D4",    Enter,   DropCross},
+    {"Panel3D5",    Enter,   DropCross},
+    {"Sz_Balls",    Enter,   DropCross},
+    {"Orvane_Desk", Enter,   DropCross},
+    {"VScroll1",    Focus,   DropCross},
+    {"X_TRANS",     Focus,   DropCross},
+    {"Y_TRANS",     Focus,   DropCross},
+    {"ZoomBar",     Focus,   DropCross},
+    // view
+    {"Picture1",   Press,   Picture1_MouseDown},
+    {"Picture1",   Move,    Picture1_MouseMove},
+    {"Picture1",   Release, Picture1_MouseUp},
+    {"X_Tag",      Click,   X_Tag_Click},
+    {"VScroll1",   Scroll,  VScroll1_Scroll},
+    {"VScroll1",   Change,  VScroll1_Change},
+    {"ZoomBar",    Scroll,  ZoomBar_Scroll},
+    {"ZoomBar",    Change,  ZoomBar_Change},
+    {"X_TRANS",    Scroll,  X_TRANS_Scroll},
+    {"X_TRANS",    Change,  X_TRANS_Change},
+    {"Y_TRANS",    Scroll,  Y_TRANS_Scroll},
+    {"Y_TRANS",    Change,  Y_TRANS_Change},
+    {"P_Auto_Rotate", Click, P_Auto_Rotate_Click},
+    {"Rt_speed",   Change,  Rt_speed_Change},
+    {"Timer1",     Tick,    Timer1_Tick},
+    {"Timer1",     Failed,  Timer1_Failed},
+    {"Bt3_Reset",  Click,   Bt3_Reset_Click},
+    // draw
+    {"Sz_Balls",   Press,   Sz_Balls_MouseDown},
 };
 // clang-format on
 

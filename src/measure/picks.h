@@ -1,0 +1,17 @@
+// The pick cycle: up to four atoms pressed on, one after the other.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// Takes every atom in the square of 7 pixels about the pointer, in the order of their numbers, and
+// prints its tag there: name, residue number, atom number. Atoms that lie on top of each other use
+// up a step of the cycle each. The tags stay until the next repaint.
+void PickAtomsAt(Orvane_Desk& desk, float x, float y);
+
+// One step of the cycle 0, 1, 2, 3, 0: the atom's place as read becomes the next of the four
+// points.
+void TakePick(Orvane_Desk& desk, int atom);
+
+}  // namespace orvane

@@ -1,0 +1,12 @@
+// Back to the start view.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// Pose, sizes, spin and back colour. The drawing mode, labels, colours, hydrogen bonds, the axis
+// and the pick cycle stay, BackgroundIndex too; Timer1 goes on and finds AutoRotateOn at 0.
+void Bt3_Reset_Click(Orvane_Desk& desk);
+
+}  // namespace orvane
