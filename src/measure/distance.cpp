@@ -1,6 +1,9 @@
 #include "measure/distance.h"
 
+#include <array>
 #include <cmath>
+
+#include "measure/readout.h"
 
 namespace orvane {
 
@@ -11,8 +14,10 @@ void Distance(Orvane_Desk& desk) {
   const double dz = molecule.PointA.Z - molecule.PointB.Z;
   molecule.DistResult = std::sqrt(dy * dy + dx * dx + dz * dz);
 
-  auto& readout = desk.main.P_Dst_Show.Caption;
-  if (!readout.Get().empty()) readout = "";
+  EmptyReadout(desk);
+  if (desk.measure.MeasureOn != 1) return;
+  const std::array<int, 2> atoms = {molecule.BondAtomA, molecule.BondAtomB};
+  ShowReadout(desk, {.Atoms = atoms, .Value = molecule.DistResult, .Unit = " Angs "});
 }
 
 }  // namespace orvane

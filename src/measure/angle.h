@@ -1,0 +1,12 @@
+// The angle of three points.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// At PointB, between PointA and PointC, into AngleResult, degrees. Empties the readout; writes the
+// new one while MeasureOn is 1. Points on one line fail.
+void Angle3(Orvane_Desk& desk);
+
+}  // namespace orvane

@@ -1,0 +1,100 @@
+#include "measure/torsion.h"
+
+#include <array>
+#include <cmath>
+
+#include "measure/degrees.h"
+#include "measure/readout.h"
+#include "runtime/arithmetic.h"
+
+namespace orvane {
+namespace {
+
+// The backbone torsions that have a name, by the four atoms' short names.
+struct NamedTorsion {
+  std::array<std::string_view, 4> Atoms;
+  std::string_view Label;
+  BackboneTorsion Kind;
+};
+constexpr NamedTorsion kNamedTorsions[] = {
+    {{"C ", "N ", "CA", "C "}, "PHI > ", BackboneTorsion::Phi},
+    {{"N ", "CA", "C ", "N "}, "PSI > ", BackboneTorsion::Psi},
+};
+constexpr std::string_view kOtherTorsion = "Tor > ";
+
+Point Minus(const Point& a, const Point& b) { return {a.X - b.X, a.Y - b.Y, a.Z - b.Z}; }
+
+void TurnAboutX(Point& p, double f) {
+  p = {p.X, std::cos(f) * p.Y - std::sin(f) * p.Z, std::sin(f) * p.Y + std::cos(f) * p.Z};
+}
+void TurnAboutY(Point& p, double g) {
+  p = {std::sin(g) * p.Z + std::cos(g) * p.X, p.Y, -std::sin(g) * p.X + std::cos(g) * p.Z};
+}
+void TurnAboutZ(Point& p, double h) {
+  p = {std::cos(h) * p.X - std::sin(h) * p.Y, std::sin(h) * p.X + std::cos(h) * p.Y, p.Z};
+}
+
+//   a       d       Three vectors from PointB. The middle bond b is laid along z and a above the
+//    \     /        x axis; what then stands in d about z is the torsion. Vectors that are not
+//     B-b-C         looked at again are not turned along.
+double TurnFrame(std::array<Point, 3>& frame) {
+  auto& [a, b, d] = frame;
+  const double f = std::atan(Divide(b.Y, b.Z));
+  for (Point& vector : frame) TurnAboutX(vector, f);
+  const double g = -std::atan(Divide(b.X, b.Z));
+  TurnAboutY(a, g);
+  TurnAboutY(d, g);
+  const double h = -std::atan(Divide(a.Y, a.X));
+  TurnAboutZ(d, h);
+  return std::atan(Divide(d.Y, d.X)) * kMeasureDegrees;
+}
+
+const NamedTorsion* NameOf(const Molecule& molecule, const std::array<int, 4>& atoms) {
+  for (const NamedTorsion& row : kNamedTorsions) {
+    bool same = true;
+    for (std::size_t i = 0; i < atoms.size(); ++i) {
+      same = same && ShortName(molecule.AtomName[atoms[i]]) == row.Atoms[i];
+    }
+    if (same) return &row;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void Torsion4(Orvane_Desk& desk) {
+  const Molecule& molecule = desk.molecule;
+  Measure& measure = desk.measure;
+  measure.TorsionFrame = {Minus(molecule.PointA, molecule.PointB),
+                          Minus(measure.PointC, molecule.PointB),
+                          Minus(measure.PointD, molecule.PointB)};
+  const double t = TurnFrame(measure.TorsionFrame);
+  measure.TorsionResult = t > 0 ? t - 180 : t < 0 ? t + 180 : t;
+
+  EmptyReadout(desk);
+  const std::array<int, 4> atoms = {molecule.BondAtomA, molecule.BondAtomB, measure.PickAtomC,
+                                    measure.PickAtomD};
+  const NamedTorsion* named = NameOf(molecule, atoms);
+  if (named != nullptr) FlipTorsionSign(desk, named->Kind);
+  if (measure.MeasureOn == 1) {
+    ShowReadout(desk, {.Label = named != nullptr ? named->Label : kOtherTorsion,
+                       .Atoms = atoms,
+                       .Value = measure.TorsionResult,
+                       .Unit = " Deg "});
+  }
+  measure.TorsionFrame = {};
+}
+
+void FlipTorsionSign(Orvane_Desk& desk, BackboneTorsion kind) {
+  const Catalogue& stock = desk.stock;
+  const std::string& text = desk.molecule.MolText;
+  double& torsion = desk.measure.TorsionResult;
+  const bool helix = text == stock.TextAlfa || text == stock.TextAlfb;
+  const bool sheet = text == stock.TextBeta || text == stock.TextBetb || text == stock.TextPbs ||
+                     text == stock.TextApbs;
+  const bool belongs_below = helix || (sheet && kind == BackboneTorsion::Phi);
+  const bool belongs_above = sheet && kind == BackboneTorsion::Psi;
+  if ((belongs_below && torsion > 0) || (belongs_above && torsion < 0)) torsion = -torsion;
+}
+
+}  // namespace orvane
