@@ -47,6 +47,7 @@ class FakePlatform : public Platform {
     if (HasPrinter) Effects.push_back("print " + page.Name);
     return HasPrinter;
   }
+  std::string ProgramFolder() override { return "/opt/orvane"; }
   int SoundOpen(const std::string& path) override {
     Effects.push_back("sound open " + path);
     const int error = SoundError;

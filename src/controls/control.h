@@ -17,8 +17,24 @@ namespace orvane {
 class Window;
 
 enum class ControlKind : std::uint8_t {
-  Panel, Button, Toggle, List, ScrollBar, TextBox, PictureBox, ImageBox, Label, Link, Line, Ornament,
-  Timer, MenuEntry, FileList, Frame, Window,
+  Panel,
+  Button,
+  Toggle,
+  List,
+  ScrollBar,
+  TextBox,
+  PictureBox,
+  ImageBox,
+  Label,
+  Link,
+  Line,
+  Ornament,
+  Timer,
+  MenuEntry,
+  FileList,
+  Frame,
+  GoOn,
+  Window,
 };
 
 // A place in twips, from the top left of the container; 15 twips are a pixel at 100 per cent.
@@ -39,14 +55,14 @@ struct Look {
 struct ControlRow {
   std::string_view Name{};
   ControlKind Kind = ControlKind::Panel;
-  std::string_view Parent{};    // name of the container; empty: the window itself
-  std::string_view Caption{};   // letters behind "&" are mnemonics
+  std::string_view Parent{};   // name of the container; empty: the window itself
+  std::string_view Caption{};  // letters behind "&" are mnemonics
   Place At{};
   Look Style{};
   bool Visible = true;
   bool Enabled = true;
-  std::string_view Tip{};       // one clause, verb first: what a click does
-  std::string_view Spoken{};    // name for a screen reader where the caption is none
+  std::string_view Tip{};     // one clause, verb first: what a click does
+  std::string_view Spoken{};  // name for a screen reader where the caption is none
   int TabStop = 0;            // place in the tab order, from 1; 0 takes no focus
 };
 
@@ -59,10 +75,10 @@ class Control {
   virtual ~Control() = default;
 
   const ControlRow& Row;
-  const std::string Name;     // without the index
-  const int Index;            // in its array; 0 outside arrays
+  const std::string Name;  // without the index
+  const int Index;         // in its array; 0 outside arrays
   Window& Owner;
-  Control* const Parent;      // the container; nullptr: the window itself
+  Control* const Parent;  // the container; nullptr: the window itself
 
   Watched<std::string, Aspect::Caption> Caption;
   Watched<bool, Aspect::Visible> Visible;

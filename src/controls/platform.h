@@ -37,6 +37,9 @@ class Platform {
   virtual void SavePicture(const SaveRequest& request) = 0;
   virtual bool PrintWindow(Window& page) = 0;          // false: it could not be printed
 
+  // The folder of the program, without a separator at its end.
+  virtual std::string ProgramFolder() = 0;
+
   // One sound at a time. SoundOpen gives an error number, 0 when the file is open.
   virtual int SoundOpen(const std::string& path) = 0;
   virtual void SoundPlay() = 0;

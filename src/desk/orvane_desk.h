@@ -9,8 +9,11 @@
 #include "draw/colours_state.h"
 #include "draw/drawing_state.h"
 #include "measure/measure_state.h"
+#include "output/print_page.h"
 #include "output/recording_state.h"
+#include "ramachandran/plot_window.h"
 #include "ramachandran/survey_state.h"
+#include "shell/information_windows.h"
 #include "shell/main_window.h"
 #include "shell/shell_state.h"
 #include "stereo/stereo_state.h"
@@ -43,9 +46,14 @@ struct Orvane_Desk {
   Shell shell;
 
   MainWindow main;
+  PlotWindow plot;        // Ramachandran
+  PrintPage page;         // Form_Print, never shown
+  FrontWindow front;      // Orvane_Front, the splash
+  ContentWindow content;  // Content, the overview
+  AuthorWindow author;    // Author_frm
 
   // Every window, the main one first.
-  std::vector<Window*> windows{&main};
+  std::vector<Window*> windows{&main, &plot, &page, &front, &content, &author};
   // The control of that full name, "Bt3_Reset" or "Content.Get_in"; nullptr when there is none.
   Control* FindControl(std::string_view full_name) const;
 };

@@ -5,6 +5,8 @@
 namespace orvane {
 
 void Orvane_Desk_Load(Orvane_Desk& desk) {
+  desk.main.Hide();
+  desk.front.Show();
   desk.main.RCDP.Enabled = false;
   desk.main.Picture1.ResetSurface();
   desk.molecule.MoleculeReady = 0;  // the wipe above has set it

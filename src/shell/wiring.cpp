@@ -4,8 +4,14 @@
 #include "measure/hydrogen_bond_button.h"
 #include "measure/measure_buttons.h"
 #include "measure/readout.h"
+#include "output/export.h"
+#include "output/print.h"
+#include "output/recording.h"
+#include "ramachandran/hover.h"
+#include "shell/information.h"
 #include "shell/panels.h"
 #include "shell/pointer_shape.h"
+#include "shell/sound.h"
 #include "view/bars.h"
 #include "view/pointer.h"
 #include "view/reset.h"
@@ -41,6 +47,35 @@ constexpr Wire kWires[] = {
     {"Bt3_Reset",     Enter,   DropCross},
     {"R_G_Stereo",    Enter,   DropCross},
     {"Label1",        Enter,   DropCross},
+    {"Picture1",   Change,  Picture1_Change},
+    {"Picture1",   Click,   HidePanels},
+    {"Panel3D1",   Click,   HidePanels},
+    {"Panel3D2",   Click,   HidePanels},
+    {"Panel3D3",   Click,   HidePanels},
+    {"Panel3D4",   Click,   HidePanels},
+    {"Panel3D5",   Click,   HidePanels},
+    {"BMusic",     Click,   HidePanels},
+    {"P_Sterio",   Click,   P_Sterio_Click},
+    {"S_bmp",      Click,   S_bmp_Click},
+    {"S_JPG",      Click,   S_JPG_Click},
+    {"S_Gif",      Click,   S_Gif_Click},
+    {"S_AnGif",    Click,   S_AnGif_Click},
+    {"PrImg",      Click,   PrImg_Click},
+    {"Ramachandran.Area",     Move, Area_MouseMove},
+    {"Ramachandran.RamPlt_H", Move, RamPlt_H_MouseMove},
+    {"OpTs",       Click,   TopMenu_Click},
+    {"DWn",        Click,   TopMenu_Click},
+    {"Exp",        Click,   TopMenu_Click},
+    {"AA_Lst",      Enter,   DropCross},
+    {"Pro_Lst",     Enter,   DropCross},
+    {"Nuc_Lst",     Enter,   DropCross},
+    {"DNA_Lst",     Enter,   DropCross},
+    {"Bt3_Ang",     Enter,   DropCross},
+    {"Bt3_Dts",     Enter,   DropCross},
+    {"Bt3_Trg",     Enter,   DropCross},
+    {"Bt3_Reset",   Enter,   DropCross},
+    {"R_G_Stereo",  Enter,   DropCross},
+    {"Label1",      Enter,   DropCross},
     {"P_Auto_Rotate", Enter,   DropCross},
     {"P_Dst_Show",    Enter,   DropCross},
     {"P_Pic1",        Enter,   DropCross},
@@ -81,6 +116,27 @@ constexpr Wire kWires[] = {
     {"P_Dst_Show",    Click,   P_Dst_Show_Click},
     // draw
     {"Sz_Balls",      Press,   Sz_Balls_MouseDown},
+    {"Sz_Balls",   Press,   Sz_Balls_MouseDown},
+    {"WatN",       Click,   WatN_Click},
+    {"Cprt",       Click,   Cprt_Click},
+    {"ExitEntry",  Click,   ExitEntry_Click},
+    {"Orvane_Front.Timer1", Tick,  Front_Timer1_Tick},
+    {"Orvane_Front.Get_in", Click, Front_Get_in_Click},
+    {"Orvane_Front.Author", Click, Front_Author_Click},
+    {"Content.Get_in",      Click, Content_Get_in_Click},
+    {"Author_frm.Get_in",   Click, Author_Get_in_Click},
+    {"PMSC1",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 1); }},
+    {"PMSC2",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 2); }},
+    {"PMSC3",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 3); }},
+    {"PMSC4",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 4); }},
+    {"PMSC5",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 5); }},
+    {"PMSC6",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 6); }},
+    {"PMSC7",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 7); }},
+    {"PMSC8",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 8); }},
+    {"PMSC9",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 9); }},
+    {"OpMfL",      Click,   OpMfL_Click},
+    {"StMsc",      Click,   StMsc_Click},
+    {"File1",      DoubleClick, File1_DblClick},
 };
 // clang-format on
 

@@ -1,5 +1,6 @@
 #include "view/spin.h"
 
+#include "output/recording.h"
 #include "shell/panels.h"
 #include "view/transform.h"
 
@@ -33,6 +34,7 @@ void Rt_speed_Change(Orvane_Desk& desk) { desk.main.Timer1.Interval = desk.main.
 void Timer1_Tick(Orvane_Desk& desk) {
   desk.platform.LetEventsRun();
   if (desk.view.AutoRotateOn != 1) return;
+  RecordTick(desk);
   SpinStep(desk);
 }
 

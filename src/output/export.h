@@ -1,0 +1,18 @@
+// Picture files: the three save commands, and the click on the pair of views. They share one shape;
+// what is written depends on what is on the screen.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+void S_bmp_Click(Orvane_Desk& desk);
+void S_JPG_Click(Orvane_Desk& desk);  // ends a recording's state first
+// One GIF, or one more frame of a recording: frame 0 and a plain save ask for the name, later
+// frames reuse it.
+void S_Gif_Click(Orvane_Desk& desk);
+
+// Writes the pair of views as test.gif, unasked; each click over the same file.
+void P_Sterio_Click(Orvane_Desk& desk);
+
+}  // namespace orvane

@@ -1,0 +1,66 @@
+#include "output/print.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::string_view kCouldNotPrint =
+    "Could'nt print.\nCheck if the Printer is installed properly.";
+
+// The title from its eleventh character on.
+std::string PageTitle(const Orvane_Desk& desk) {
+  const std::string& title = desk.main.Caption;
+  return title.size() < 10 ? std::string() : title.substr(10);
+}
+
+void ComposePair(Orvane_Desk& desk) {
+  PrintPage& page = desk.page;
+  const bool forms = desk.stereo.EnantiomerOn == 1;
+  page.R_Form.Visible = forms;
+  page.L_Form.Visible = forms;
+  // "Sterio" here and "Stereo" on the screen: on purpose.
+  page.Str_Entm.Caption = forms ? "Enantiomers" : "Sterio Pair";
+  page.Str_Entm.Visible = true;
+  page.Mol_Name.Visible = false;
+  page.Image1.Visible = false;
+  page.AA_name.Caption = PageTitle(desk);
+  page.AA_name.Visible = true;
+  page.L_Img.SetPicture(desk.main.L_Img.Shown());
+  page.R_Img.SetPicture(desk.main.R_Img.Shown());
+  page.L_Img.Visible = true;
+  page.R_Img.Visible = true;
+}
+
+void ComposeSurface(Orvane_Desk& desk) {
+  PrintPage& page = desk.page;
+  page.R_Form.Visible = false;
+  page.L_Form.Visible = false;
+  page.AA_name.Visible = false;
+  page.Str_Entm.Visible = false;
+  page.L_Img.Visible = false;  // the large picture does not cover them to their edges
+  page.R_Img.Visible = false;
+  page.Image1.SetPicture(desk.main.Picture1.Image());
+  page.Image1.Visible = true;
+  page.Mol_Name.Caption = PageTitle(desk);
+  page.Mol_Name.Visible = true;
+}
+
+void PrintOrTell(Orvane_Desk& desk, Window& page) {
+  if (!desk.platform.PrintWindow(page)) desk.platform.MessageBox(kCouldNotPrint);
+}
+
+}  // namespace
+
+void PrImg_Click(Orvane_Desk& desk) {
+  desk.main.P_Clr_Holder.Visible = false;
+  if (desk.stereo.SplitViewOn == 1) {
+    ComposePair(desk);
+    PrintOrTell(desk, desk.page);
+  } else if (desk.stereo.SplitViewOn == 0) {
+    ComposeSurface(desk);
+    PrintOrTell(desk, desk.page);
+  } else if (desk.stereo.SplitViewOn == 2) {
+    PrintOrTell(desk, desk.plot);
+  }
+}
+
+}  // namespace orvane

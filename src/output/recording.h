@@ -1,0 +1,16 @@
+// The animated recording rides on the spin: every second tick of the timer writes one frame.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+inline constexpr int kRecordingTicks = 35;  // 18 frames, at ticks 0, 2, ... 34
+
+// Starts a recording and clicks P_Auto_Rotate. Where the spin was on already, that click stops it.
+void S_AnGif_Click(Orvane_Desk& desk);
+
+// The recording's part of a tick, before the spin step: a frame on even ticks, the end at the last.
+void RecordTick(Orvane_Desk& desk);
+
+}  // namespace orvane

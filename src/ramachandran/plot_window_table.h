@@ -1,0 +1,13 @@
+// The plot window's control table.
+#pragma once
+
+#include <span>
+
+#include "controls/control.h"
+
+namespace orvane {
+
+// The first row is the window itself; a container stands before what it holds.
+std::span<const ControlRow> PlotWindowTable();
+
+}  // namespace orvane

@@ -1,0 +1,15 @@
+// Control tables of the three windows that stand before or beside the main window.
+#pragma once
+
+#include <span>
+
+#include "controls/control.h"
+
+namespace orvane {
+
+// The first row is the window itself; a container stands before what it holds.
+std::span<const ControlRow> FrontTable();
+std::span<const ControlRow> ContentTable();
+std::span<const ControlRow> AuthorTable();
+
+}  // namespace orvane
