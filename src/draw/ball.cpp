@@ -1,0 +1,181 @@
+#include "draw/ball.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace orvane {
+namespace {
+
+constexpr double kLargestSprite = 64;                     // radius in pixels; a larger ball is rare
+constexpr std::size_t kMostWords = std::size_t{1} << 20;  // of all sprites together: 4 MB
+
+// How much of a pixel at a distance from the centre lies within a radius.
+double Inside(double radius, double distance) {
+  return std::clamp(radius + 0.5 - distance, 0.0, 1.0);
+}
+
+std::uint32_t Part(double of_one) { return static_cast<std::uint32_t>(of_one * 255 + 0.5); }
+
+std::uint32_t Blend(std::uint32_t outline, std::uint32_t fill, double part_of_fill) {
+  std::uint32_t word = 0;
+  for (int shift = 0; shift < 24; shift += 8) {
+    const double from = (outline >> shift) & 255u;
+    const double to = (fill >> shift) & 255u;
+    word |= static_cast<std::uint32_t>(from + (to - from) * part_of_fill + 0.5) << shift;
+  }
+  return word;
+}
+
+// The word of a pixel at a distance from the centre: colour, and in its top byte the cover.
+std::uint32_t WordAt(const Ball& ball, double distance) {
+  const double outer = Inside(ball.Radius + ball.Width / 2, distance);
+  // Of a ball smaller than its pen there is only pen.
+  const double core = ball.Radius - ball.Width / 2;
+  const double inner = core > 0 ? Inside(core, distance) * std::min(1.0, 2 * core) : 0;
+  if (!ball.Filled) return Part(outer - inner) << 24 | (WordOf(ball.Ink) & 0xFFFFFFu);
+  // The share of the fill in what is covered.
+  const double share = outer > 0 ? inner / outer : 0;
+  return Part(outer) << 24 | Blend(WordOf(ball.Ink), WordOf(ball.Fill), share);
+}
+
+Sprite MakeSprite(const Ball& ball, double phase_x, double phase_y) {
+  const int reach = static_cast<int>(std::ceil(ball.Radius + ball.Width / 2 + 0.5)) + 1;
+  Sprite sprite;
+  sprite.Side = 2 * reach + 1;
+  sprite.Stride = sprite.Side + 4;
+  sprite.Left = -reach;
+  sprite.Words.assign(static_cast<std::size_t>(sprite.Side) * sprite.Stride, 0);
+  for (int y = 0; y < sprite.Side; ++y) {
+    std::uint32_t* row = &sprite.Words[static_cast<std::size_t>(y) * sprite.Stride];
+    Sprite::Row range{sprite.Side, 0, sprite.Side, 0};
+    for (int x = 0; x < sprite.Side; ++x) {
+      const double dx = x - reach - phase_x;
+      const double dy = y - reach - phase_y;
+      row[x] = WordAt(ball, std::sqrt(dx * dx + dy * dy));
+      const std::uint32_t cover = row[x] >> 24;
+      if (cover == 0) continue;
+      range.First = std::min(range.First, x);
+      range.Last = x + 1;
+      if (cover == 255 && ball.Filled) {
+        range.SolidFirst = std::min(range.SolidFirst, x);
+        range.SolidLast = x + 1;
+      }
+    }
+    // A row without solid pixels ends where its solid part would begin.
+    if (range.SolidLast <= range.SolidFirst) range.SolidFirst = range.SolidLast = range.Last;
+    if (range.Last <= range.First) range = {};
+    sprite.Rows.push_back(range);
+  }
+  return sprite;
+}
+
+// 0 to 255 becomes 0 to 256, so that a full cover hides all.
+Words4 CoverOf(Words4 words) {
+  const Words4 cover = words >> 24;
+  return cover + (cover >> 7);
+}
+
+void MixFour(std::uint32_t* under, const std::uint32_t* words) {
+  const Words4 ink = Load(words);
+  Store(under, Mix(Load(under), Split(ink | 0xFF000000u), CoverOf(ink)));
+}
+
+void MixOne(std::uint32_t& under, std::uint32_t word) {
+  under = Mix(Words4{under}, Split(Words4{word | 0xFF000000u}), CoverOf(Words4{word}))[0];
+}
+
+// For a sprite whose rows and the empty words behind them lie on the canvas.
+void BlitWhole(const Canvas& canvas, int left, int top, const Sprite& sprite) {
+  const std::uint32_t* source = sprite.Words.data();
+  std::uint32_t* words = canvas.Row(top) + left;
+  for (const Sprite::Row& row : sprite.Rows) {
+    for (int x = row.First; x < row.SolidFirst; x += 4) MixFour(words + x, source + x);
+    int x = row.SolidFirst;
+    for (; x + 4 <= row.SolidLast; x += 4) Store(words + x, Load(source + x));
+    // The pixels that are left and the far edge.
+    for (; x < row.Last; x += 4) MixFour(words + x, source + x);
+    source += sprite.Stride;
+    words += canvas.Stride;
+  }
+}
+
+void BlitPart(const Canvas& canvas, int left, int top, const Sprite& sprite) {
+  const int first_row = std::max(0, -top);
+  const int last_row = std::min(sprite.Side, canvas.Height - top);
+  for (int y = first_row; y < last_row; ++y) {
+    const Sprite::Row& row = sprite.Rows[static_cast<std::size_t>(y)];
+    const std::uint32_t* source = &sprite.Words[static_cast<std::size_t>(y) * sprite.Stride];
+    std::uint32_t* words = canvas.Row(top + y);
+    const int last = std::min(row.Last, canvas.Width - left);
+    for (int x = std::max(row.First, -left); x < last; ++x) MixOne(words[left + x], source[x]);
+  }
+}
+
+// A ball too large for a sprite, pixel by pixel.
+void DrawLarge(const Canvas& canvas, double x, double y, const Ball& ball) {
+  const double reach = ball.Radius + ball.Width;
+  const auto within = [](double value, int size) {
+    return static_cast<int>(std::clamp(value, 0.0, static_cast<double>(size)));
+  };
+  const int left = within(x - reach, canvas.Width);
+  const int right = within(x + reach + 2, canvas.Width);
+  const int bottom = within(y + reach + 2, canvas.Height);
+  for (int row = within(y - reach, canvas.Height); row < bottom; ++row) {
+    std::uint32_t* words = canvas.Row(row);
+    for (int column = left; column < right; ++column) {
+      const double dx = column - x;
+      const double dy = row - y;
+      MixOne(words[column], WordAt(ball, std::sqrt(dx * dx + dy * dy)));
+    }
+  }
+}
+
+}  // namespace
+
+BallSprites::Set& BallSprites::SetOf(const Ball& ball) {
+  const auto found =
+      std::find_if(sets_.begin(), sets_.end(), [&](const auto& set) { return set->Of == ball; });
+  if (found != sets_.end()) {
+    // One step towards the front, so that the common ones are found first.
+    if (found == sets_.begin()) return **found;
+    std::iter_swap(found, found - 1);
+    return **(found - 1);
+  }
+  if (words_ > kMostWords) {
+    sets_.clear();
+    words_ = 0;
+  }
+  sets_.push_back(std::make_unique<Set>());
+  sets_.back()->Of = ball;
+  return *sets_.back();
+}
+
+void BallSprites::Draw(const Canvas& canvas, double x, double y, const Ball& ball) {
+  if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(ball.Radius)) return;
+  const double reach = ball.Radius + ball.Width + 2;
+  if (ball.Radius < 0 || x < -reach || y < -reach || x > canvas.Width + reach ||
+      y > canvas.Height + reach) {
+    return;
+  }
+  if (ball.Radius + ball.Width > kLargestSprite) return DrawLarge(canvas, x, y, ball);
+
+  const auto quarters_x = static_cast<int>(std::floor(x * kPhases + 0.5));
+  const auto quarters_y = static_cast<int>(std::floor(y * kPhases + 0.5));
+  const int phase_x = quarters_x & (kPhases - 1);
+  const int phase_y = quarters_y & (kPhases - 1);
+  std::unique_ptr<Sprite>& sprite = SetOf(ball).At[phase_y * kPhases + phase_x];
+  if (!sprite) {
+    sprite = std::make_unique<Sprite>(MakeSprite(ball, phase_x / 4.0, phase_y / 4.0));
+    words_ += sprite->Words.size();
+  }
+  const int left = (quarters_x >> 2) + sprite->Left;
+  const int top = (quarters_y >> 2) + sprite->Left;
+  if (left >= 0 && top >= 0 && left + sprite->Stride <= canvas.Width &&
+      top + sprite->Side <= canvas.Height) {
+    BlitWhole(canvas, left, top, *sprite);
+  } else {
+    BlitPart(canvas, left, top, *sprite);
+  }
+}
+
+}  // namespace orvane

@@ -1,0 +1,72 @@
+// Where pixels are made: words of somebody else's memory, and how ink is mixed into four of them
+// at a time. The mixing is in whole numbers, the same on every machine.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+#include "runtime/colour.h"
+
+namespace orvane {
+
+// Rows of 0xFFRRGGBB words from the top left.
+struct Canvas {
+  std::uint32_t* Words = nullptr;
+  int Width = 0, Height = 0;
+  int Stride = 0;  // words from a row to the next
+
+  std::uint32_t* Row(int y) const { return Words + static_cast<std::ptrdiff_t>(y) * Stride; }
+};
+
+constexpr std::uint32_t WordOf(Colour colour) {
+  return 0xFF000000u | (colour & 255u) << 16 | (colour & 0xFF00u) | ((colour >> 16) & 255u);
+}
+
+// Four pixels side by side; the compiler has registers for them.
+using Words4 [[gnu::vector_size(16)]] = std::uint32_t;
+using Halves8 [[gnu::vector_size(16)]] = std::uint16_t;
+using Floats4 [[gnu::vector_size(16)]] = float;
+using Ints4 [[gnu::vector_size(16)]] = std::int32_t;
+
+inline Words4 Load(const std::uint32_t* words) {
+  Words4 four;
+  std::memcpy(&four, words, sizeof four);
+  return four;
+}
+inline void Store(std::uint32_t* words, Words4 four) { std::memcpy(words, &four, sizeof four); }
+
+// Channels of four pixels in 16 bits each: blue and red, then green and the opaque byte.
+struct Channels {
+  Halves8 BlueRed, GreenTop;
+};
+inline Channels Split(Words4 four) {
+  return {(Halves8)(four & 0x00FF00FFu), (Halves8)((four >> 8) & 0x00FF00FFu)};
+}
+
+// Ink over what is there; cover runs from 0, nothing, to 256, ink alone.
+inline Words4 Mix(Words4 under, const Channels& ink, Words4 cover) {
+  const Halves8 part = (Halves8)(cover | cover << 16);
+  const Halves8 rest = 256 - part;
+  const Channels old = Split(under);
+  const Halves8 blue_red = (old.BlueRed * rest + ink.BlueRed * part + 128) >> 8;
+  const Halves8 green_top = (old.GreenTop * rest + ink.GreenTop * part + 128) & 0xFF00;
+  return (Words4)blue_red | (Words4)green_top;
+}
+
+// Calls mix(words, step) for every four words of a row from `first` up to `last`, `step` being 0, 4
+// and so on. The words behind the row's end are borrowed ones, so nothing is written outside it.
+template <class MixFour>
+inline void ForFours(const Canvas& canvas, int y, int first, int last, MixFour&& mix) {
+  std::uint32_t* row = canvas.Row(y);
+  int x = first;
+  for (; x < last && x + 4 <= canvas.Width; x += 4) mix(row + x, x - first);
+  if (x < last) {
+    std::uint32_t four[4] = {};
+    const std::size_t left = static_cast<std::size_t>(canvas.Width - x) * sizeof *row;
+    std::memcpy(four, row + x, left);
+    mix(four, x - first);
+    std::memcpy(row + x, four, left);
+  }
+}
+
+}  // namespace orvane
