@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <functional>
 
+#include "draw/raster.h"
+
 namespace orvane {
 namespace {
 
@@ -23,14 +25,14 @@ PictureBox::PictureBox(Window& window, std::string_view name, int width, int hei
 
 void PictureBox::ResetSurface(std::shared_ptr<const Bitmap> picture, int background) {
   picture_ = std::move(picture);
-  Wipe();
+  Wipe(picture_);
   if (Trace != nullptr) Trace->PictureSet(background);
   TellDrawn();
   Raise({.Kind = EventKind::Change});
 }
 
 void PictureBox::Cls() {
-  Wipe();
+  Wipe(picture_);
   TellDrawn();
 }
 
@@ -88,7 +90,7 @@ Picture& PictureBox::Own() {
   return *content_;
 }
 
-void PictureBox::Wipe() {
+void PictureBox::Wipe(std::shared_ptr<const Bitmap> backdrop) {
   if (content_.use_count() > 1) {
     const int width = content_->Width;
     const int height = content_->Height;
@@ -104,7 +106,7 @@ void PictureBox::Wipe() {
     content_->Height = height;
   }
   content_->BackColor = BackColor;
-  content_->Backdrop = picture_;
+  content_->Backdrop = std::move(backdrop);
   content_->Strokes.clear();
   content_->Texts.clear();
   text_slots_.assign(kFewestTextSlots, 0);
@@ -112,6 +114,9 @@ void PictureBox::Wipe() {
 
 void PictureBox::Append(Stroke stroke, std::string_view text) {
   stroke.Width = static_cast<std::uint8_t>(std::clamp(DrawWidth, 0, 255));
+  if (content_->Strokes.size() >= kMostStrokes) {
+    Wipe(std::make_shared<Bitmap>(Raster().Paint(*content_)));
+  }
   Picture& content = Own();
   if (stroke.Kind == StrokeKind::Print) stroke.Text = IndexOf(text);
   content.Strokes.push_back(stroke);

@@ -11,6 +11,10 @@
 
 namespace orvane {
 
+// A list that would grow beyond this is painted down into its backdrop first, so that drawing
+// without a wipe does not fill the memory.
+inline constexpr std::size_t kMostStrokes = 65536;
+
 // Hears every call, in order: the replay's trace.
 class SurfaceTrace {
  public:
@@ -60,7 +64,8 @@ class PictureBox : public Control {
 
  private:
   Picture& Own();  // the list, for writing: a copy of its own if a snapshot shares it
-  void Wipe();     // an empty list in memory that is there already
+  // An empty list over that backdrop, in memory that is there already.
+  void Wipe(std::shared_ptr<const Bitmap> backdrop);
   void Append(Stroke stroke, std::string_view text);
   std::uint32_t IndexOf(std::string_view text);
   void TellDrawn();

@@ -231,6 +231,34 @@ TEST_F(SurfaceTest, TheWatcherIsToldOnceUntilSomebodyLooks) {
   EXPECT_EQ(SurfaceTold, 2);
 }
 
+TEST_F(SurfaceTest, AListThatNobodyWipesIsPaintedDownIntoItsBackdrop) {
+  Surface.SetBackColor(kBlue);
+  Surface.Line(10, 20, 12, 20, kRed);
+  Surface.Print("first");
+  for (std::size_t count = 2; count < kMostStrokes; ++count) Surface.Line(5, 5, 7, 5, kRed);
+  const auto full = Surface.Image();
+  EXPECT_EQ(full->Strokes.size(), kMostStrokes);
+  EXPECT_EQ(full->Backdrop, nullptr);
+
+  Surface.Print("next");
+
+  const auto image = Surface.Image();
+  ASSERT_EQ(Strokes(), "Print 7 5 #000000 \"next\"\n");
+  ASSERT_NE(image->Backdrop, nullptr);
+  EXPECT_EQ(image->Backdrop->Width, 360);
+  EXPECT_EQ(image->Backdrop->Words[20 * 360 + 11], 0xFFFF0000u);  // the first line
+  EXPECT_EQ(image->Backdrop->Words[30 * 360 + 1], 0xFF0000FFu);   // the plain colour
+  EXPECT_EQ(full->Strokes.size(), kMostStrokes);                  // a snapshot keeps its list
+}
+
+TEST_F(SurfaceTest, ClsWipesWhatWasPaintedDownToo) {
+  for (std::size_t count = 0; count <= kMostStrokes; ++count) Surface.Line(5, 5, 7, 5, kRed);
+  ASSERT_NE(Surface.Image()->Backdrop, nullptr);
+  Surface.Cls();
+
+  EXPECT_EQ(Surface.Image()->Backdrop, nullptr);
+}
+
 TEST_F(SurfaceTest, AWidthIsKeptAsGivenWithinAByte) {
   for (const int width : {0, 10, 300, -1}) {
     Surface.DrawWidth = width;
