@@ -1,0 +1,97 @@
+#include "draw/redraw_chain.h"
+
+#include <gtest/gtest.h>
+
+#include "core/records.h"
+#include "draw/placed_atoms.h"
+
+namespace orvane {
+namespace {
+
+struct RedrawChainTest : testing::Test, PlacedAtoms {
+  // 4 wide and 2 high: centre 2, 1, and 0.25 of the half surface, 45 pixels, to an Angstrom.
+  void LoadTwo() { Load(desk, Record("N", 0, 0, 0) + Record("O", 4, 2, 0)); }
+};
+
+TEST_F(RedrawChainTest, ANewStructureFillsHalfOfTheSurface) {
+  LoadTwo();
+
+  EXPECT_EQ(desk.molecule.ScrX[1], 90);  // (0 - 2) x 45 + 180
+  EXPECT_EQ(desk.molecule.ScrX[2], 270);
+}
+
+TEST_F(RedrawChainTest, ThePictureIsDrawnYDownAndFlat) {
+  LoadTwo();
+  desk.molecule.CurZ[1] = 50;
+  RedrawView(desk);
+
+  EXPECT_EQ(desk.molecule.ScrY[1], 135);  // (0 - 1) x 45 + 180: the lower y is the upper end
+  EXPECT_EQ(desk.molecule.ScrY[2], 225);
+}
+
+TEST_F(RedrawChainTest, ShiftsArePixelsOnTopOfTheProjection) {
+  LoadTwo();
+  desk.view.PanX = 7;
+  desk.view.PanY = -9;
+  desk.view.SurfOffX = 0.5;
+  RedrawView(desk);
+
+  EXPECT_EQ(desk.molecule.ScrX[1], 97.5);
+  EXPECT_EQ(desk.molecule.ScrY[1], 126);
+}
+
+TEST_F(RedrawChainTest, EachRedrawSetsThePixelScale) {
+  desk.main.Picture1.ScaleMode = 1;
+  RedrawView(desk);
+
+  EXPECT_EQ(desk.main.Picture1.ScaleMode, 3);
+}
+
+TEST_F(RedrawChainTest, ARepaintDoesNotProject) {
+  LoadTwo();
+  desk.molecule.ScrX[1] = 33;
+  desk.drawing.BallsOn = 1;
+  RepaintPasses(desk);
+
+  EXPECT_EQ(desk.molecule.ScrX[1], 33);
+  EXPECT_EQ(desk.main.Picture1.Image()->Strokes.at(0).X1, 33);
+}
+
+TEST_F(RedrawChainTest, AFamilyThatIsNoneRunsNoPainter) {
+  LoadTwo();
+  desk.main.Picture1.Cls();
+  desk.main.Picture1.Print("kept");
+  desk.drawing.DrawFamily = 2;
+  RedrawView(desk);
+
+  EXPECT_EQ(Strokes(), "Print 0 0 #000000 \"kept\"\n");
+}
+
+TEST_F(RedrawChainTest, FastWireJoinsPlacesOfAtomsWithTheNumbersOfBonds) {
+  Load(desk, Record("N", 0, 0, 0) + Record("O", 4, 0, 0));
+  desk.molecule.AtomCount = 2;
+  Bond(1, 2);  // point 2 is not filled yet, and stands at 0, 0
+  Bond(2, 1);
+  desk.drawing.FastWire = 1;
+  desk.drawing.DrawFamily = 2;  // so that no painter wipes it
+  desk.main.Picture1.Print("old");
+  desk.main.Picture1.ForeColor = Rgb(1, 2, 3);
+  desk.main.Picture1.DrawWidth = 4;
+  RedrawView(desk);
+
+  EXPECT_EQ(Strokes(),
+            "Line 90 180 0 0 #010203 w4\n"
+            "Line 270 180 90 180 #010203 w4\n");
+}
+
+TEST_F(RedrawChainTest, FastWireIsGoodFor1000Points) {
+  for (int bond = 1; bond <= 1000; ++bond) Bond(bond, 1);
+  desk.drawing.FastWire = 1;
+  EXPECT_NO_THROW(RedrawView(desk));
+
+  Bond(1001, 1);
+  EXPECT_THROW(RedrawView(desk), Failure);
+}
+
+}  // namespace
+}  // namespace orvane
