@@ -6,7 +6,12 @@ add_library(orvane_options INTERFACE)
 target_compile_options(orvane_options INTERFACE
   -ffp-contract=off
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
-  -Wformat=2 -Wimplicit-fallthrough -Werror)
+  -Wformat=2 -Wimplicit-fallthrough)
+
+# Warnings are errors where the program is worked on (the presets dev and asan), not where it is only
+# built: there a new compiler's opinion shall not keep a student from starting it. GCC 12 sees an
+# overlap in std::string::insert and operator+ that is not there.
+target_compile_options(orvane_options INTERFACE -Wno-restrict)
 
 if(ORVANE_SANITIZE)
   target_compile_options(orvane_options INTERFACE

@@ -15,11 +15,11 @@ class FakePlatform : public Platform {
   // What happened, one line each, in order: "beep", "message TEXT", "warning TEXT", "failure TEXT",
   // "ask PROMPT | TITLE", "save FORMAT NAME SOURCE", "print WINDOW", "sound open PATH", "end".
   std::vector<std::string> Effects;
-  std::deque<std::string> Answers;        // replies to input boxes; with none left: cancelled
-  std::function<void()> PendingEvents;    // runs inside LetEventsRun
-  std::string SaveFails;                  // not empty: every save fails with this clause
+  std::deque<std::string> Answers;      // replies to input boxes; with none left: cancelled
+  std::function<void()> PendingEvents;  // runs inside LetEventsRun
+  std::string SaveFails;                // not empty: every save fails with this clause
   bool HasPrinter = true;
-  int SoundError = 0;                     // of the next SoundOpen
+  int SoundError = 0;  // of the next SoundOpen
 
   void Beep() override { Effects.emplace_back("beep"); }
   void MessageBox(std::string_view text) override { Keep("message ", text); }
@@ -65,7 +65,9 @@ class FakePlatform : public Platform {
   int SoundLength() override { return 0; }
 
  private:
-  void Keep(const char* kind, std::string_view text) { Effects.push_back(kind + std::string(text)); }
+  void Keep(const char* kind, std::string_view text) {
+    Effects.push_back(kind + std::string(text));
+  }
 
   bool sound_open_ = false;
 };

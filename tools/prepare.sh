@@ -35,37 +35,42 @@ need_packages() {
   fi
 
   say "installing what is missing (${#missing[@]} Debian packages): ${missing[*]}"
-  local log
-  log=$(mktemp)
-  if ! { "${as_root[@]}" apt-get -qq -o DPkg::Lock::Timeout=300 update &&
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y --no-install-recommends \
-      -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 install "${missing[@]}"; } >"$log" 2>&1; then
-    cat "$log" >&2
-    rm -f "$log"
+  if ! quietly "${as_root[@]}" apt-get -qq -o DPkg::Lock::Timeout=300 update ||
+    ! quietly "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y \
+      --no-install-recommends -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 \
+      install "${missing[@]}"; then
     say "the packages could not be installed; apt-get says why just above."
     exit 1
   fi
+}
+
+# Runs a command that has nothing to say unless it fails; then all that it said is shown.
+quietly() {
+  local log status=0
+  log=$(mktemp)
+  "$@" >"$log" 2>&1 || status=$?
+  ((status == 0)) || cat "$log" >&2
   rm -f "$log"
+  return "$status"
 }
 
 # Builds a preset. Configures only a tree that is new, was moved, or is older than the presets; from
-# then on Ninja sees for itself which CMake file has changed. Prints nothing but what went wrong.
+# then on Ninja sees for itself which CMake file has changed. The first build shows on a terminal how
+# far it is; all others print nothing but what went wrong.
 build_preset() {
-  local preset=$1 tree=$root/build/$1 fresh=() log
+  local preset=$1 tree=$root/build/$1 fresh=() how=(quietly)
   if [[ ! -f $tree/build.ninja || $root/CMakePresets.json -nt $tree/build.ninja ]] ||
     ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$tree/CMakeCache.txt"; then
     say "building the preset '$preset'; the first time this takes some minutes."
+    [[ ! -t 1 ]] || how=()
     [[ ! -f $tree/CMakeCache.txt ]] || fresh=(--fresh)
-    log=$(mktemp)
-    if ! (cd "$root" && cmake --preset "$preset" "${fresh[@]}") >"$log" 2>&1; then
-      cat "$log" >&2
-      rm -f "$log" "$tree/build.ninja"
+    if ! quietly cmake -S "$root" --preset "$preset" "${fresh[@]}"; then
+      rm -f "$tree/build.ninja"
       say "the build could not be prepared; CMake says why just above."
       exit 1
     fi
-    rm -f "$log"
   fi
-  if ! cmake --build "$tree" -- --quiet >&2; then
+  if ! "${how[@]}" cmake --build "$tree"; then
     say "the build failed; the compiler says why just above."
     exit 1
   fi

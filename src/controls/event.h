@@ -4,18 +4,18 @@
 namespace orvane {
 
 enum class EventKind {
-  Click,        // also a click on a row of a list, once the row is chosen
+  Click,  // also a click on a row of a list, once the row is chosen
   DoubleClick,
-  Press,        // pointer button down; Button, X, Y
-  Move,         // pointer over the control; Button is the state of the buttons
-  Release,      // pointer button up
-  Enter,        // the pointer comes onto the control
-  Focus,        // the keyboard comes to the control
-  Key,          // a key in a text box; KeyCode
-  Change,       // the value of a bar, or the picture of a picture box, was set
-  Scroll,       // the thumb of a bar moves under the pointer
-  Tick,         // the interval of a timer is over
-  Failed,       // an operation that began at this control ended in a failure
+  Press,    // pointer button down; Button, X, Y
+  Move,     // pointer over the control; Button is the state of the buttons
+  Release,  // pointer button up
+  Enter,    // the pointer comes onto the control
+  Focus,    // the keyboard comes to the control
+  Key,      // a key in a text box; KeyCode
+  Change,   // the value of a bar, or the picture of a picture box, was set
+  Scroll,   // the thumb of a bar moves under the pointer
+  Tick,     // the interval of a timer is over
+  Failed,   // an operation that began at this control ended in a failure
 };
 
 // Pointer buttons, as they are counted in an event; a Move carries their sum.
@@ -27,9 +27,9 @@ inline constexpr int kEnterKey = 13;
 
 struct Event {
   EventKind Kind = EventKind::Click;
-  int Index = 0;    // which element of a control array
+  int Index = 0;  // which element of a control array
   int Button = 0;
-  float X = 0;      // pixels of the control, from its top left
+  float X = 0;  // pixels of the control, from its top left
   float Y = 0;
   int KeyCode = 0;
 };

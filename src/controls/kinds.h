@@ -1,5 +1,5 @@
-// The kinds of control that are little more than their state. Bars have a file of their own, and the
-// picture box is draw/surface.h.
+// The kinds of control that are little more than their state. Bars have a file of their own, and
+// the picture box is draw/surface.h.
 #pragma once
 
 #include <array>
@@ -15,11 +15,22 @@ namespace orvane {
 
 struct Picture;  // draw/picture.h: what a surface showed at a moment, or a stored image
 
-class Panel : public Control { using Control::Control; };
-class Button : public Control { using Control::Control; };
-class Label : public Control { using Control::Control; };
-class Ornament : public Control { using Control::Control; };  // lines and plates: no event comes
-class MenuEntry : public Control { using Control::Control; };
+class Panel : public Control {
+  using Control::Control;
+};
+class Button : public Control {
+  using Control::Control;
+};
+class Label : public Control {
+  using Control::Control;
+};
+// Lines and plates: no event comes.
+class Ornament : public Control {
+  using Control::Control;
+};
+class MenuEntry : public Control {
+  using Control::Control;
+};
 
 class List : public Control {
  public:
@@ -33,20 +44,21 @@ class List : public Control {
   std::string Text() const {
     const auto& rows = Rows.Get();
     const int row = ListIndex;
-    return row >= 0 && row < static_cast<int>(rows.size()) ? rows[static_cast<std::size_t>(row)] : "";
+    return row >= 0 && row < static_cast<int>(rows.size()) ? rows[static_cast<std::size_t>(row)]
+                                                           : "";
   }
 };
 
-// One of the three lists of the music chooser. What stands in them is the platform's; the logic keeps
-// the folder and the pattern that are shown, and the file under the pointer.
+// One of the three lists of the music chooser. What stands in them is the platform's; the logic
+// keeps the folder and the pattern that are shown, and the file under the pointer.
 class FileList : public Control {
  public:
   FileList(Window& window, std::string_view name)
       : Control(window, name), Path(*this, ""), Pattern(*this, ""), FileName(*this, "") {}
 
-  Watched<std::string, Aspect::Rows> Path;      // folder whose content is listed
-  Watched<std::string, Aspect::Rows> Pattern;   // "*.wav;*.au"
-  Watched<std::string, Aspect::Value> FileName; // chosen file
+  Watched<std::string, Aspect::Rows> Path;       // folder whose content is listed
+  Watched<std::string, Aspect::Rows> Pattern;    // "*.wav;*.au"
+  Watched<std::string, Aspect::Value> FileName;  // chosen file
 };
 
 class TextBox : public Control {

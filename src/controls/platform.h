@@ -13,9 +13,9 @@ enum class FileFormat { Bmp, Jpeg, Gif, GifFrame };  // GifFrame: one more frame
 
 struct SaveRequest {
   FileFormat Format = FileFormat::Bmp;
-  std::string Name;               // file name without folder, with its suffix
-  Control* Source = nullptr;      // Picture1, the panel P_Sterio as it shows, or the plot window
-  bool FirstFrame = false;        // a recording's first frame begins the file anew
+  std::string Name;           // file name without folder, with its suffix
+  Control* Source = nullptr;  // Picture1, the panel P_Sterio as it shows, or the plot window
+  bool FirstFrame = false;    // a recording's first frame begins the file anew
 };
 
 class Platform {
@@ -27,15 +27,16 @@ class Platform {
   virtual void MessageBox(std::string_view text) = 0;
   virtual void WarningBox(std::string_view text) = 0;  // with the exclamation icon
   virtual void FailureBox(std::string_view text) = 0;
-  virtual std::string InputBox(std::string_view prompt, std::string_view title) = 0;  // empty: cancelled
+  // Empty when it was cancelled.
+  virtual std::string InputBox(std::string_view prompt, std::string_view title) = 0;
 
-  virtual void LetEventsRun() = 0;       // pending events are handled inside this call
-  virtual void Wait(int seconds) = 0;    // lets events run until the clock has passed so many seconds
+  virtual void LetEventsRun() = 0;     // pending events are handled inside this call
+  virtual void Wait(int seconds) = 0;  // lets events run until the clock has passed so many seconds
   virtual void EndProgram() = 0;
 
   // Pictures and paper. What cannot be done ends in FailPlatform with the reason in plain words.
   virtual void SavePicture(const SaveRequest& request) = 0;
-  virtual bool PrintWindow(Window& page) = 0;          // false: it could not be printed
+  virtual bool PrintWindow(Window& page) = 0;  // false: it could not be printed
 
   // The folder of the program, without a separator at its end.
   virtual std::string ProgramFolder() = 0;
@@ -46,7 +47,7 @@ class Platform {
   virtual void SoundStop() = 0;
   virtual void SoundClose() = 0;
   virtual bool SoundIsOpen() = 0;
-  virtual int SoundLength() = 0;         // milliseconds
+  virtual int SoundLength() = 0;  // milliseconds
 };
 
 }  // namespace orvane

@@ -21,9 +21,9 @@ class ScrollBar : public Control {
   void SetValue(int value);
 
   // The user's ways to move it (each clips to the range):
-  void StepTo(int value);   // arrow or page area: one change event if the value changed
-  void DragTo(int value);   // thumb held: the value is set, then one scroll event
-  void Drop();              // thumb let go: one change event at the value it has
+  void StepTo(int value);  // arrow or page area: one change event if the value changed
+  void DragTo(int value);  // thumb held: the value is set, then one scroll event
+  void Drop();             // thumb let go: one change event at the value it has
 };
 
 }  // namespace orvane

@@ -9,11 +9,21 @@ class Control;
 
 // What of a control has changed.
 enum class Aspect {
-  Caption, Visible, Enabled, Look, Place, BackColor, Value, Picture, Rows, Text, Interval,
-  Pointer,   // the pointer shape of a window
-  Front,     // the control was brought in front of its siblings
-  Focus,     // the control asks for the keyboard
-  Surface,   // a picture box was drawn on
+  Caption,
+  Visible,
+  Enabled,
+  Look,
+  Place,
+  BackColor,
+  Value,
+  Picture,
+  Rows,
+  Text,
+  Interval,
+  Pointer,  // the pointer shape of a window
+  Front,    // the control was brought in front of its siblings
+  Focus,    // the control asks for the keyboard
+  Surface,  // a picture box was drawn on
 };
 
 void TellWatcher(Control& control, Aspect aspect);  // controls/control.cpp

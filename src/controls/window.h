@@ -28,10 +28,10 @@ class Window : public Control {
   Watched<int, Aspect::Pointer> MousePointer;
   const std::span<const ControlRow> Table;
   const std::string Prefix;
-  std::vector<Control*> Controls;      // in the order in which they stack, lowest first
+  std::vector<Control*> Controls;  // in the order in which they stack, lowest first
   ControlWatcher* Watcher = nullptr;
 
-  void Show();   // shows it in front of the others
+  void Show();  // shows it in front of the others
   void Hide() { Visible = false; }
   // The control of that name without prefix, "X_Tag(1)"; nullptr when there is none.
   Control* Find(std::string_view name) const;

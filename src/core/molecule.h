@@ -1,5 +1,5 @@
-// The store: the one structure that is loaded, as it was read, as the view has changed it, and where
-// it lies on the surface.
+// The store: the one structure that is loaded, as it was read, as the view has changed it, and
+// where it lies on the surface.
 #pragma once
 
 #include <string>
@@ -32,16 +32,16 @@ struct Molecule {
 
   // Bond b, 1 to BondCount: BondA is the higher atom number.
   Slots<Int16> BondA, BondB;
-  Slots<Int16> BondSerial;            // b itself
+  Slots<Int16> BondSerial;  // b itself
   // Hydrogen bond h, 1 to HBondCount: HBondA is the later atom.
   Slots<Int16> HBondA, HBondB;
 
   Int16 AtomCount;
   Int16 BondCount;
-  Int16 HBondCount;                   // reset by the hydrogen-bond search, not by the loader
+  Int16 HBondCount;  // reset by the hydrogen-bond search, not by the loader
 
-  std::string MolText;                // records of 55 characters back to back; stays after the load
-  std::string AtomRec;                // the record under the loader's hand
+  std::string MolText;  // records of 55 characters back to back; stays after the load
+  std::string AtomRec;  // the record under the loader's hand
 
   double MaxX = 0, MaxY = 0, MaxZ = 0;
   // While loading the smallest coordinates; from FitBox on the centre of the box, which the
@@ -54,11 +54,12 @@ struct Molecule {
   // The pair under test by a scan; also the pair that a measure line names. BondAtomB is 2 after
   // every load.
   Int16 BondAtomA, BondAtomB;
-  // Scratch points handed between routines. The sense of the next turn is taken from what they hold.
+  // Scratch points handed between routines. The sense of the next turn is taken from what they
+  // hold.
   Point PointA, PointB;
-  double DistResult = 0;                      // last distance
+  double DistResult = 0;  // last distance
 
-  int MoleculeReady = 0;                      // 1: commands work; else they beep
+  int MoleculeReady = 0;  // 1: commands work; else they beep
 };
 
 // The cuts of a name field that painters and measures compare, blanks included. Each begins at the

@@ -32,8 +32,7 @@ void StepBar(Orvane_Desk& desk, ScrollBar& bar, int value, Reach reach = Reach::
 void DragBar(Orvane_Desk& desk, ScrollBar& bar, int value, Reach reach = Reach::AsUser);
 void DropBar(Orvane_Desk& desk, ScrollBar& bar, Reach reach = Reach::AsUser);
 
-void TypeText(Orvane_Desk& desk, TextBox& box, std::string_view text,
-              Reach reach = Reach::AsUser);
+void TypeText(Orvane_Desk& desk, TextBox& box, std::string_view text, Reach reach = Reach::AsUser);
 void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach = Reach::AsUser);
 
 // One tick of a timer, if it is enabled. No user's action: it comes with its window hidden, too.

@@ -21,13 +21,13 @@ enum class StrokeKind : std::uint8_t { Line, Circle, Print };
 // One call on a surface. Coordinates are surface pixels, narrowed to 32 bits.
 struct Stroke {
   StrokeKind Kind = StrokeKind::Line;
-  std::uint8_t Width = 1;        // DrawWidth: pen of a line, outline of a circle
-  std::uint8_t Style = 0;        // a line: DrawStyle, 0 solid, 2 dotted; a circle: FillStyle, 0 filled
-  float X1 = 0, Y1 = 0;          // start of a line, centre of a circle, top left of a text
-  float X2 = 0, Y2 = 0;          // end of a line; X2 is the radius of a circle
-  Colour Ink = 0;                // of the line, the outline or the text
-  Colour Fill = 0;               // of a circle
-  std::uint32_t Text = 0;        // index into Texts of the list
+  std::uint8_t Width = 1;  // DrawWidth: pen of a line, outline of a circle
+  std::uint8_t Style = 0;  // a line: DrawStyle, 0 solid, 2 dotted; a circle: FillStyle, 0 filled
+  float X1 = 0, Y1 = 0;    // start of a line, centre of a circle, top left of a text
+  float X2 = 0, Y2 = 0;    // end of a line; X2 is the radius of a circle
+  Colour Ink = 0;          // of the line, the outline or the text
+  Colour Fill = 0;         // of a circle
+  std::uint32_t Text = 0;  // index into Texts of the list
 
   friend bool operator==(const Stroke&, const Stroke&) = default;
 };
@@ -38,7 +38,7 @@ struct Picture {
   std::shared_ptr<const Bitmap> Backdrop;  // drawn from the top left at its own size; may be null
   int Width = 0, Height = 0;               // surface pixels
   std::vector<Stroke> Strokes;
-  std::vector<std::string> Texts;          // distinct texts of the Print strokes
+  std::vector<std::string> Texts;  // distinct texts of the Print strokes
 };
 
 }  // namespace orvane

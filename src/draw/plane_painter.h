@@ -5,8 +5,8 @@
 
 namespace orvane {
 
-// Paints the planes in PlaneColour over what is on the surface, or alone with PlanesOnly. Leaves the
-// last seen marked atoms in PlaneH, PlaneO, PlaneCA1 and PlaneCA2, and FillStyle at 0.
+// Paints the planes in PlaneColour over what is on the surface, or alone with PlanesOnly. Leaves
+// the last seen marked atoms in PlaneH, PlaneO, PlaneCA1 and PlaneCA2, and FillStyle at 0.
 void PaintPlanes(Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -25,13 +25,13 @@ class SurveyRows {
 };
 
 struct Survey {
-  SurveyRows PhiList, PsiList;      // degrees; the plot pass overwrites a row with its pixel position
+  SurveyRows PhiList, PsiList;  // degrees; the plot pass overwrites a row with its pixel position
   int PhiCount = 0, PsiCount = 0;
-  double PhiMax = 0, PsiMax = 0;    // largest value seen
-  double PhiMid = 0, PsiMid = 0;    // smallest value seen, then the middle of the range
+  double PhiMax = 0, PsiMax = 0;  // largest value seen
+  double PhiMid = 0, PsiMid = 0;  // smallest value seen, then the middle of the range
   double PhiSpan = 0, PsiSpan = 0;
   double WidestSpan = 0;
-  double PlotScale = 0;             // 1 / WidestSpan
+  double PlotScale = 0;  // 1 / WidestSpan
   int SurveyAtom = 0;
   Int16 PlotIndex;
 

@@ -5,7 +5,8 @@ namespace orvane {
 void FailOverflow() { throw Failure("a whole number grew beyond what it can hold"); }
 
 void FailSubscript(long slot) {
-  throw Failure("place " + std::to_string(slot) + " of a list was asked for, which it does not have");
+  throw Failure("place " + std::to_string(slot) +
+                " of a list was asked for, which it does not have");
 }
 
 void FailDivision() { throw Failure("a number was divided by zero"); }

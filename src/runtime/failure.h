@@ -15,10 +15,10 @@ class Failure : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-[[noreturn]] void FailOverflow();                        // a 16-bit field left its range
-[[noreturn]] void FailSubscript(long slot);              // a slot outside 0 to 30000
-[[noreturn]] void FailDivision();                        // a division by zero
-[[noreturn]] void FailConversion(std::string_view text); // a text that is no number of its kind
+[[noreturn]] void FailOverflow();                         // a 16-bit field left its range
+[[noreturn]] void FailSubscript(long slot);               // a slot outside 0 to 30000
+[[noreturn]] void FailDivision();                         // a division by zero
+[[noreturn]] void FailConversion(std::string_view text);  // a text that is no number of its kind
 // Anything the platform could not do: `clause` says it in plain words ("the disk is full").
 [[noreturn]] void FailPlatform(const std::string& clause);
 

@@ -53,7 +53,8 @@ Int16 StrictInt16(std::string_view text) {
 
 std::string SingleText(double value) {
   const auto single = static_cast<float>(value);
-  const int leading = single == 0.0F ? 0 : static_cast<int>(std::floor(std::log10(std::fabs(single))));
+  const int leading =
+      single == 0.0F ? 0 : static_cast<int>(std::floor(std::log10(std::fabs(single))));
   return Fixed(single, std::max(0, 6 - leading));
 }
 

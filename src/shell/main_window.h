@@ -1,5 +1,5 @@
-// The one work window: its controls under their names. What each is stands in main_window_table.cpp,
-// what each does in the room of its handler.
+// The one work window: its controls under their names. What each is stands in
+// main_window_table.cpp, what each does in the room of its handler.
 #pragma once
 
 #include "controls/kinds.h"
@@ -15,8 +15,10 @@ struct MainWindow : Window {
   MainWindow();
 
   // Menus.
-  MenuEntry OpTs{*this, "OpTs"}, MlClr{*this, "MlClr"}, LbClr{*this, "LbClr"}, PbClr{*this, "PbClr"};
-  MenuEntry BkGd{*this, "BkGd"}, ClPlt{*this, "ClPlt"}, Bk_Cl{*this, "Bk_Cl"}, Wt_Cl{*this, "Wt_Cl"};
+  MenuEntry OpTs{*this, "OpTs"}, MlClr{*this, "MlClr"}, LbClr{*this, "LbClr"},
+      PbClr{*this, "PbClr"};
+  MenuEntry BkGd{*this, "BkGd"}, ClPlt{*this, "ClPlt"}, Bk_Cl{*this, "Bk_Cl"},
+      Wt_Cl{*this, "Wt_Cl"};
   MenuEntry COL_RGB{*this, "COL_RGB"}, Bgr1{*this, "Bgr1"}, Bgr2{*this, "Bgr2"};
   MenuEntry Bgr3{*this, "Bgr3"}, Bgr4{*this, "Bgr4"}, Bgr5{*this, "Bgr5"};
   MenuEntry PrImg{*this, "PrImg"}, ExitEntry{*this, "ExitEntry"};

@@ -260,12 +260,11 @@ constexpr auto kRows = std::to_array<ControlRow>({
 
 // The names of the swatches have to outlive the rows that refer to them.
 constexpr std::array<std::string_view, kSwatchCount> kSwatchNames = {
-    "P_Clr(0)", "P_Clr(1)", "P_Clr(2)", "P_Clr(3)", "P_Clr(4)", "P_Clr(5)",
-    "P_Clr(6)", "P_Clr(7)", "P_Clr(8)", "P_Clr(9)", "P_Clr(10)", "P_Clr(11)",
-    "P_Clr(12)", "P_Clr(13)", "P_Clr(14)", "P_Clr(15)", "P_Clr(16)", "P_Clr(17)",
-    "P_Clr(18)", "P_Clr(19)", "P_Clr(20)", "P_Clr(21)", "P_Clr(22)", "P_Clr(23)",
-    "P_Clr(24)", "P_Clr(25)", "P_Clr(26)", "P_Clr(27)", "P_Clr(28)", "P_Clr(29)",
-    "P_Clr(30)", "P_Clr(31)", "P_Clr(32)",
+    "P_Clr(0)",  "P_Clr(1)",  "P_Clr(2)",  "P_Clr(3)",  "P_Clr(4)",  "P_Clr(5)",  "P_Clr(6)",
+    "P_Clr(7)",  "P_Clr(8)",  "P_Clr(9)",  "P_Clr(10)", "P_Clr(11)", "P_Clr(12)", "P_Clr(13)",
+    "P_Clr(14)", "P_Clr(15)", "P_Clr(16)", "P_Clr(17)", "P_Clr(18)", "P_Clr(19)", "P_Clr(20)",
+    "P_Clr(21)", "P_Clr(22)", "P_Clr(23)", "P_Clr(24)", "P_Clr(25)", "P_Clr(26)", "P_Clr(27)",
+    "P_Clr(28)", "P_Clr(29)", "P_Clr(30)", "P_Clr(31)", "P_Clr(32)",
 };
 
 constexpr auto WithSwatches() {
@@ -277,8 +276,8 @@ constexpr auto WithSwatches() {
         .Name = kSwatchNames[i],
         .Kind = Panel,
         .Parent = "P_Clr_Holder",
-        .At = {kSwatchFirst + kSwatchPitch * swatch.Column, kSwatchFirst + kSwatchPitch * swatch.Row,
-               kSwatchSide, kSwatchSide},
+        .At = {kSwatchFirst + kSwatchPitch * swatch.Column,
+               kSwatchFirst + kSwatchPitch * swatch.Row, kSwatchSide, kSwatchSide},
         .Tip = "Take this colour",
         .TabStop = 42 + swatch.Column + 11 * swatch.Row};
   }

@@ -1,4 +1,5 @@
-// The main window's control table: a row a control, by which the window and every skin of it is built.
+// The main window's control table: a row a control, by which the window and every skin of it is
+// built.
 #pragma once
 
 #include <span>

@@ -5,8 +5,8 @@
 
 namespace orvane {
 
-// Closes the three floating panels. Nearly every handler begins with it: a handler that wants a panel
-// to stay open must not call it. It is the click on BMusic, too.
+// Closes the three floating panels. Nearly every handler begins with it: a handler that wants a
+// panel to stay open must not call it. It is the click on BMusic, too.
 void HidePanels(Orvane_Desk& desk);
 
 // The top menus close the same three panels in an order of their own.

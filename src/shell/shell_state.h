@@ -8,10 +8,10 @@
 namespace orvane {
 
 struct Shell {
-  Int16 FromFrontAuthor;     // -1 when Author_frm was opened from Orvane_Front
-  Int16 FrontFrame;          // frame of the splash's two animations, 0 to 9
-  std::string SoundFile;     // relative path of a stock tune
-  std::string SoundPath;     // full path that PlayWave opens
+  Int16 FromFrontAuthor;  // -1 when Author_frm was opened from Orvane_Front
+  Int16 FrontFrame;       // frame of the splash's two animations, 0 to 9
+  std::string SoundFile;  // relative path of a stock tune
+  std::string SoundPath;  // full path that PlayWave opens
 };
 
 }  // namespace orvane

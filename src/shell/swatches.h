@@ -13,7 +13,7 @@ struct Swatch {
 };
 
 inline constexpr int kSwatchCount = 33;
-inline constexpr int kRedSwatch = 21;     // pens of the red-green picture
+inline constexpr int kRedSwatch = 21;  // pens of the red-green picture
 inline constexpr int kGreenSwatch = 20;
 
 // Eleven columns by three rows; index = place in this table. 1 and 8 are the same colour.

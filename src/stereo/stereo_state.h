@@ -14,9 +14,9 @@ struct AxisCells {
 struct Stereo {
   int StereoOn = 0;
   int EnantiomerOn = 0;
-  int EnantiomerPairOn = 0;   // 1: the D/L composition captures nothing
+  int EnantiomerPairOn = 0;  // 1: the D/L composition captures nothing
   int RedGreenOn = 0;
-  Int16 SplitViewOn;          // 1 stereo or D/L, 2 the plot window is the subject; read by printing
+  Int16 SplitViewOn;  // 1 stereo or D/L, 2 the plot window is the subject; read by printing
   Int16 SavedBondWidth = 1, SavedPlaneWidth = 1;
   Colour SavedPenColour = 0;
   int SavedColourMode = 0;

@@ -6,10 +6,10 @@
 namespace orvane {
 
 struct Generator {
-  Point RefBonded;    // the new atom hangs on it
-  Point RefAngle;     // with RefBonded the axis along which the angle is laid off
-  Point RefTorsion;   // fixes the azimuth from which the torsion is counted
-  Point NewAtom;      // the result
+  Point RefBonded;   // the new atom hangs on it
+  Point RefAngle;    // with RefBonded the axis along which the angle is laid off
+  Point RefTorsion;  // fixes the azimuth from which the torsion is counted
+  Point NewAtom;     // the result
 
   Point PlaceOrigin;  // RefAngle before it is moved to the origin
   double PlaceAlpha = 0, PlaceBeta = 0, PlaceGamma = 0;  // turns of one placement, radians
