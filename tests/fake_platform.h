@@ -28,7 +28,7 @@ class FakePlatform : public Platform {
   std::string InputBox(std::string_view prompt, std::string_view title) override {
     Effects.push_back("ask " + std::string(prompt) + " | " + std::string(title));
     if (Answers.empty()) return "";
-    const std::string answer = Answers.front();
+    std::string answer = Answers.front();
     Answers.pop_front();
     return answer;
   }

@@ -43,7 +43,7 @@ constexpr bool IsAtomRecord(std::string_view record) { return Cut(record, kRecor
 // structure can have. The end of the text is seen from the last record and gives an empty one.
 constexpr std::string_view StepToRecord(std::string_view text, int number, Int16& position) {
   if (number > 1) {
-    if (static_cast<std::size_t>(position + kRecordWidth) > text.size()) return {};
+    if (static_cast<std::size_t>(position) + kRecordWidth > text.size()) return {};
     position += kRecordWidth;
   }
   return Mid(text, position, kRecordWidth);
