@@ -9,8 +9,9 @@ enum class BackboneTorsion { Phi = 0, Psi = 1 };
 
 // PointA, PointB, PointC, PointD about the line from PointB to PointC, into TorsionResult, degrees.
 // The arctangent knows no quadrant, so the result lies between 90 and 180 to either side, or is 0:
-// a torsion of small size comes out near 180. Empties the readout; writes the new one while
-// MeasureOn is 1. A vector without the component that is divided by fails.
+// a torsion of small size comes out near 180. Its sign turns round when the middle bond runs down
+// along z. Empties the readout; writes the new one while MeasureOn is 1. A vector without the
+// component that is divided by fails.
 void Torsion4(Orvane_Desk& desk);
 
 // The stock helices show phi and psi below zero, the stock strands and sheets psi above it, as the
