@@ -1,0 +1,50 @@
+// The outside world of a replay: an effect is a line, and what a user would have to supply comes
+// from the script.
+#pragma once
+
+#include <deque>
+#include <string>
+
+#include "controls/platform.h"
+#include "replay/output.h"
+
+namespace orvane {
+
+class ReplayPlatform : public Platform {
+ public:
+  explicit ReplayPlatform(Output& output) : output_(output) {}
+
+  std::deque<std::string> Answers;  // replies to the next input boxes; with none left: cancelled
+  int SoundError = 0;               // of the next SoundOpen alone; 0: the file opens
+  bool HasPrinter = true;
+  bool Ended = false;
+
+  void Beep() override;
+  void MessageBox(std::string_view text) override;
+  void WarningBox(std::string_view text) override;
+  void FailureBox(std::string_view text) override;
+  std::string InputBox(std::string_view prompt, std::string_view title) override;
+
+  // A script's actions come one after the other, so nothing is ever pending.
+  void LetEventsRun() override {}
+  void Wait(int) override {}
+  void EndProgram() override;
+
+  void SavePicture(const SaveRequest& request) override;
+  bool PrintWindow(Window& page) override;
+  // Lines do not hang on where the program file lies.
+  std::string ProgramFolder() override { return "."; }
+
+  int SoundOpen(const std::string& path) override;
+  void SoundPlay() override;
+  void SoundStop() override;
+  void SoundClose() override;
+  bool SoundIsOpen() override { return sound_is_open_; }
+  int SoundLength() override { return 0; }
+
+ private:
+  Output& output_;
+  bool sound_is_open_ = false;
+};
+
+}  // namespace orvane

@@ -1,0 +1,12 @@
+// The scalar fields of the desk, each under its own name.
+#pragma once
+
+#include "desk/orvane_desk.h"
+#include "replay/json_line.h"
+
+namespace orvane {
+
+// Room by room in the order of the desk, and within a room in the order of its header.
+void AppendStateFields(ObjectLine& line, const Orvane_Desk& desk);
+
+}  // namespace orvane
