@@ -1,5 +1,6 @@
 #include "shell/wiring.h"
 
+#include "core/selection.h"
 #include "draw/size_keys.h"
 #include "measure/hydrogen_bond_button.h"
 #include "measure/measure_buttons.h"
@@ -12,6 +13,7 @@
 #include "shell/panels.h"
 #include "shell/pointer_shape.h"
 #include "shell/sound.h"
+#include "stock/catalogue.h"
 #include "view/bars.h"
 #include "view/pointer.h"
 #include "view/reset.h"
@@ -69,6 +71,14 @@ constexpr Wire kWires[] = {
     {"X_TRANS",       Focus,   DropCross},
     {"Y_TRANS",       Focus,   DropCross},
     {"ZoomBar",       Focus,   DropCross},
+    // core
+    {"Bt_Blt_AA",     Click,   Bt_Blt_AA_Click},
+    {"Bt_M_Ld",       Click,   Bt_M_Ld_Click},
+    // stock
+    {"AA_Lst",        Click,   AA_Lst_Click},
+    {"Pro_Lst",       Click,   Pro_Lst_Click},
+    {"Nuc_Lst",       Click,   Nuc_Lst_Click},
+    {"DNA_Lst",       Click,   DNA_Lst_Click},
     // view
     {"Picture1",      Press,   Picture1_MouseDown},
     {"Picture1",      Move,    Picture1_MouseMove},

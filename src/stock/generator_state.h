@@ -1,9 +1,17 @@
 // The residue generator's memory: reference points of the next atom and where placed atoms are.
 #pragma once
 
+#include <string_view>
+#include <vector>
+
 #include "core/molecule.h"
 
 namespace orvane {
+
+struct PlacedAtom {
+  std::string_view Name;  // as in the residue table, without blanks
+  Point At;
+};
 
 struct Generator {
   Point RefBonded;   // the new atom hangs on it
@@ -14,9 +22,8 @@ struct Generator {
   Point PlaceOrigin;  // RefAngle before it is moved to the origin
   double PlaceAlpha = 0, PlaceBeta = 0, PlaceGamma = 0;  // turns of one placement, radians
 
-  // Working points, rebound as a side chain grows; WorkCB is stale until CB is placed.
-  Point WorkC, WorkCA, WorkN, WorkO, WorkCB, WorkCD, WorkNE;
-  Point CopyN, CopyCA, CopyCB;  // never rebound: references of the alanine methyl group
+  // The residue so far, at full precision: a record's cut coordinates never place another atom.
+  std::vector<PlacedAtom> Placed;
 
   // Three picked points come here too and find no further reader.
   Point PickedA, PickedB, PickedC;
