@@ -2,6 +2,8 @@
 
 #include "draw/atom_painter.h"
 #include "draw/fast_wire.h"
+#include "draw/plane_painter.h"
+#include "draw/trace_painter.h"
 
 namespace orvane {
 namespace {
@@ -31,6 +33,8 @@ void RedrawView(Orvane_Desk& desk) {
 
 void RepaintPasses(Orvane_Desk& desk) {
   if (desk.drawing.DrawFamily == 0) PaintAtomFamily(desk);
+  if (desk.drawing.DrawFamily == 1) PaintTraceFamily(desk);
+  if (desk.drawing.PeptideOn == 1) PaintPlanes(desk);
 }
 
 }  // namespace orvane

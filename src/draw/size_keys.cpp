@@ -2,6 +2,7 @@
 
 #include "draw/redraw_chain.h"
 #include "shell/panels.h"
+#include "stereo/refresh_tail.h"
 
 namespace orvane {
 namespace {
@@ -45,6 +46,7 @@ void Sz_Balls_MouseDown(Orvane_Desk& desk, const Event& event) {
   if (desk.molecule.MoleculeReady != 1) return desk.platform.Beep();
   StepSize(desk.drawing, kSizeKeys.at(static_cast<std::size_t>(event.Index)));
   RepaintPasses(desk);
+  RefreshTail(desk);
 }
 
 }  // namespace orvane
