@@ -2,6 +2,7 @@
 
 #include "draw/redraw_chain.h"
 #include "shell/panels.h"
+#include "stereo/refresh_tail.h"
 
 namespace orvane {
 
@@ -16,6 +17,7 @@ void Bt3_HBD_Click(Orvane_Desk& desk) {
     desk.main.Bt3_HBD.Caption = "H-bond Off";
   }
   RepaintPasses(desk);
+  RefreshTail(desk);
 }
 
 }  // namespace orvane

@@ -9,11 +9,13 @@
 #include "output/print.h"
 #include "output/recording.h"
 #include "ramachandran/hover.h"
+#include "ramachandran/survey.h"
 #include "shell/information.h"
 #include "shell/panels.h"
 #include "shell/pointer_shape.h"
 #include "shell/sound.h"
 #include "stock/catalogue.h"
+#include "stereo/toggles.h"
 #include "view/bars.h"
 #include "view/pointer.h"
 #include "view/reset.h"
@@ -27,7 +29,7 @@ using enum EventKind;
 // By room, and within a room in the order of the window.
 // clang-format off
 constexpr Wire kWires[] = {
-    // shell
+    // shell: panels and pointer
     {"Picture1",      Change,  Picture1_Change},
     {"Picture1",      Click,   HidePanels},
     {"Panel3D1",      Click,   HidePanels},
@@ -49,14 +51,6 @@ constexpr Wire kWires[] = {
     {"Bt3_Reset",     Enter,   DropCross},
     {"R_G_Stereo",    Enter,   DropCross},
     {"Label1",        Enter,   DropCross},
-    {"P_Sterio",   Click,   P_Sterio_Click},
-    {"S_bmp",      Click,   S_bmp_Click},
-    {"S_JPG",      Click,   S_JPG_Click},
-    {"S_Gif",      Click,   S_Gif_Click},
-    {"S_AnGif",    Click,   S_AnGif_Click},
-    {"PrImg",      Click,   PrImg_Click},
-    {"Ramachandran.Area",     Move, Area_MouseMove},
-    {"Ramachandran.RamPlt_H", Move, RamPlt_H_MouseMove},
     {"P_Auto_Rotate", Enter,   DropCross},
     {"P_Dst_Show",    Enter,   DropCross},
     {"P_Pic1",        Enter,   DropCross},
@@ -79,6 +73,7 @@ constexpr Wire kWires[] = {
     {"Pro_Lst",       Click,   Pro_Lst_Click},
     {"Nuc_Lst",       Click,   Nuc_Lst_Click},
     {"DNA_Lst",       Click,   DNA_Lst_Click},
+
     // view
     {"Picture1",      Press,   Picture1_MouseDown},
     {"Picture1",      Move,    Picture1_MouseMove},
@@ -97,14 +92,18 @@ constexpr Wire kWires[] = {
     {"Timer1",        Tick,    Timer1_Tick},
     {"Timer1",        Failed,  Timer1_Failed},
     {"Bt3_Reset",     Click,   Bt3_Reset_Click},
+
     // measure
     {"Bt3_HBD",       Click,   Bt3_HBD_Click},
     {"Bt3_Dts",       Click,   Bt3_Dts_Click},
     {"Bt3_Ang",       Click,   Bt3_Ang_Click},
     {"Bt3_Trg",       Click,   Bt3_Trg_Click},
     {"P_Dst_Show",    Click,   P_Dst_Show_Click},
+
     // draw
     {"Sz_Balls",      Press,   Sz_Balls_MouseDown},
+
+    // shell: information windows and sound
     {"WatN",       Click,   WatN_Click},
     {"Cprt",       Click,   Cprt_Click},
     {"ExitEntry",  Click,   ExitEntry_Click},
@@ -125,6 +124,25 @@ constexpr Wire kWires[] = {
     {"OpMfL",      Click,   OpMfL_Click},
     {"StMsc",      Click,   StMsc_Click},
     {"File1",      DoubleClick, File1_DblClick},
+
+    // stereo
+    {"Bt3_Sterio",    Click,   Bt3_Sterio_Click},
+    {"Bt3_Isomers",   Click,   Bt3_Isomers_Click},
+    {"Bt3_D_L_Str",   Click,   Bt3_D_L_Str_Click},
+    {"R_G_Stereo",    Click,   R_G_Stereo_Click},
+
+    // ramachandran
+    {"RCDP",          Click,   ShowRamachandran},
+    {"Ramachandran.Area",     Move, Area_MouseMove},
+    {"Ramachandran.RamPlt_H", Move, RamPlt_H_MouseMove},
+
+    // output
+    {"P_Sterio",      Click,   P_Sterio_Click},
+    {"S_bmp",         Click,   S_bmp_Click},
+    {"S_JPG",         Click,   S_JPG_Click},
+    {"S_Gif",         Click,   S_Gif_Click},
+    {"S_AnGif",       Click,   S_AnGif_Click},
+    {"PrImg",         Click,   PrImg_Click},
 };
 // clang-format on
 

@@ -1,6 +1,7 @@
 #include "view/bars.h"
 
 #include "shell/panels.h"
+#include "stereo/refresh_tail.h"
 #include "view/transform.h"
 
 namespace orvane {
@@ -10,6 +11,7 @@ void ChangeBy(Orvane_Desk& desk, void (*step)(Orvane_Desk&)) {
   HidePanels(desk);
   if (desk.molecule.MoleculeReady != 1) return desk.platform.Beep();
   step(desk);
+  RefreshTail(desk);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "measure/picks.h"
 #include "shell/panels.h"
+#include "stereo/refresh_tail.h"
 #include "view/transform.h"
 
 namespace orvane {
@@ -50,6 +51,7 @@ void Picture1_MouseMove(Orvane_Desk& desk, const Event& event) {
   view.TurnAngle = DragAngle(double{event.X} - view.PressX, main.Picture1.ScaleHeight());
   ChooseAxis(view, 0, 1, 0);
   RotateAll(desk);
+  RefreshTail(desk, Tail::StereoAndRedGreen);
 }
 
 void Picture1_MouseUp(Orvane_Desk& desk) {

@@ -2,6 +2,7 @@
 
 #include "output/recording.h"
 #include "shell/panels.h"
+#include "stereo/refresh_tail.h"
 #include "view/transform.h"
 
 namespace orvane {
@@ -36,6 +37,7 @@ void Timer1_Tick(Orvane_Desk& desk) {
   if (desk.view.AutoRotateOn != 1) return;
   RecordTick(desk);
   SpinStep(desk);
+  RefreshTail(desk);
 }
 
 void Timer1_Failed(Orvane_Desk& desk) { StopSpin(desk); }

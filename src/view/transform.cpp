@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "draw/redraw_chain.h"
+#include "stereo/compositions.h"
 
 namespace orvane {
 namespace {
@@ -139,6 +140,7 @@ void ResetView(Orvane_Desk& desk) {
   desk.main.X_TRANS.SetValue(0);
   desk.main.Y_TRANS.SetValue(0);
   RedrawView(desk);
+  if (desk.stereo.RedGreenOn == 1) ComposeRedGreen(desk);
 }
 
 }  // namespace orvane

@@ -1,0 +1,20 @@
+// The survey of the backbone torsions and its marks on the map. It walks the atoms and steps a
+// fixed distance in the list to the neighbours of each alpha carbon, without looking at their
+// names, so it fits the stock backbone texts. Positions are relative to the middle of the whole
+// set; the angle itself chooses only the quarter of the map.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// Fills the lists and draws on the areas. The last row takes part in the ranges and is not plotted.
+// The last psi reads atoms beyond AtomCount: whatever an earlier, longer structure left there.
+// Leaves PointA to PointD and PickAtomD changed.
+void TorsionSurvey(Orvane_Desk& desk);
+
+// Opens the plot window over fresh pictures and surveys what is in the store, loaded or not. The
+// plot window is the subject of printing from here on.
+void ShowRamachandran(Orvane_Desk& desk);
+
+}  // namespace orvane
