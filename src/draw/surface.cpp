@@ -46,35 +46,36 @@ void PictureBox::SetBackColor(Colour colour) {
 }
 
 void PictureBox::Line(double x1, double y1, double x2, double y2, Colour colour) {
-  Append({.Kind = StrokeKind::Line,
-          .Style = static_cast<std::uint8_t>(DrawStyle),
-          .X1 = static_cast<float>(x1),
-          .Y1 = static_cast<float>(y1),
-          .X2 = static_cast<float>(x2),
-          .Y2 = static_cast<float>(y2),
-          .Ink = colour},
-         {});
+  Stroke& stroke = Append(StrokeKind::Line);
+  stroke.Style = static_cast<std::uint8_t>(DrawStyle);
+  stroke.X1 = static_cast<float>(x1);
+  stroke.Y1 = static_cast<float>(y1);
+  stroke.X2 = static_cast<float>(x2);
+  stroke.Y2 = static_cast<float>(y2);
+  stroke.Ink = colour;
   CurrentX = x2;
   CurrentY = y2;
+  TellDrawn(stroke, {});
 }
 
 void PictureBox::Circle(double x, double y, double radius, Colour outline) {
-  Append({.Kind = StrokeKind::Circle,
-          .Style = static_cast<std::uint8_t>(FillStyle),
-          .X1 = static_cast<float>(x),
-          .Y1 = static_cast<float>(y),
-          .X2 = static_cast<float>(radius),
-          .Ink = outline,
-          .Fill = FillColor},
-         {});
+  Stroke& stroke = Append(StrokeKind::Circle);
+  stroke.Style = static_cast<std::uint8_t>(FillStyle);
+  stroke.X1 = static_cast<float>(x);
+  stroke.Y1 = static_cast<float>(y);
+  stroke.X2 = static_cast<float>(radius);
+  stroke.Ink = outline;
+  stroke.Fill = FillColor;
+  TellDrawn(stroke, {});
 }
 
 void PictureBox::Print(std::string_view text) {
-  Append({.Kind = StrokeKind::Print,
-          .X1 = static_cast<float>(CurrentX),
-          .Y1 = static_cast<float>(CurrentY),
-          .Ink = ForeColor},
-         text);
+  Stroke& stroke = Append(StrokeKind::Print);
+  stroke.X1 = static_cast<float>(CurrentX);
+  stroke.Y1 = static_cast<float>(CurrentY);
+  stroke.Ink = ForeColor;
+  stroke.Text = IndexOf(text);
+  TellDrawn(stroke, text);
 }
 
 int PictureBox::ScaleWidth() const { return content_->Width; }
@@ -112,14 +113,19 @@ void PictureBox::Wipe(std::shared_ptr<const Bitmap> backdrop) {
   text_slots_.assign(kFewestTextSlots, 0);
 }
 
-void PictureBox::Append(Stroke stroke, std::string_view text) {
-  stroke.Width = static_cast<std::uint8_t>(std::clamp(DrawWidth, 0, 255));
+// The caller fills the stroke in where it lies: to copy one whole, just after its small fields were
+// written, takes longer than all the rest of a call.
+Stroke& PictureBox::Append(StrokeKind kind) {
   if (content_->Strokes.size() >= kMostStrokes) {
     Wipe(std::make_shared<Bitmap>(Raster().Paint(*content_)));
   }
-  Picture& content = Own();
-  if (stroke.Kind == StrokeKind::Print) stroke.Text = IndexOf(text);
-  content.Strokes.push_back(stroke);
+  Stroke& stroke = Own().Strokes.emplace_back();
+  stroke.Kind = kind;
+  stroke.Width = static_cast<std::uint8_t>(std::clamp(DrawWidth, 0, 255));
+  return stroke;
+}
+
+void PictureBox::TellDrawn(const Stroke& stroke, std::string_view text) {
   if (Trace != nullptr) Trace->Drawn(stroke, text);
   TellDrawn();
 }

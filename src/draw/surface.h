@@ -66,8 +66,9 @@ class PictureBox : public Control {
   Picture& Own();  // the list, for writing: a copy of its own if a snapshot shares it
   // An empty list over that backdrop, in memory that is there already.
   void Wipe(std::shared_ptr<const Bitmap> backdrop);
-  void Append(Stroke stroke, std::string_view text);
+  Stroke& Append(StrokeKind kind);
   std::uint32_t IndexOf(std::string_view text);
+  void TellDrawn(const Stroke& stroke, std::string_view text);
   void TellDrawn();
 
   std::shared_ptr<Picture> content_;
