@@ -21,8 +21,16 @@ constexpr UnmeantPair kUnmeantPairs[] = {
 // Second line of a double bond: right and down, whichever way the bond runs.
 constexpr double kDoubleShift = 2;
 
+bool IsElement(const NameField& name, char letter) {
+  const std::string_view element = ElementLetter(name);
+  return !element.empty() && element.front() == letter;
+}
+
 bool IsDrawn(const NameField& first, const NameField& second) {
-  if (ElementLetter(first) == "H" && ElementLetter(second) == "H") return false;
+  const bool first_is_hydrogen = IsElement(first, 'H');
+  const bool second_is_hydrogen = IsElement(second, 'H');
+  if (first_is_hydrogen && second_is_hydrogen) return false;
+  if (!first_is_hydrogen && !second_is_hydrogen) return true;  // H4 is in every pair
   for (const UnmeantPair& pair : kUnmeantPairs) {
     if (FullName(first) == pair.First && FullName(second) == pair.Second) return false;
   }
@@ -57,7 +65,7 @@ void PaintHalves(Orvane_Desk& desk, int a, int b) {
 
   TakeName(desk, b);
   surface.Line(mx, my, bx, by, LineInk(desk));
-  if (ElementLetter(drawing.DrawName) == "C" && drawing.HalfIsDouble == 1) {
+  if (IsElement(drawing.DrawName, 'C') && drawing.HalfIsDouble == 1) {
     surface.Line(mx + kDoubleShift, my + kDoubleShift, bx + kDoubleShift, by + kDoubleShift,
                  LineInk(desk));
   }
