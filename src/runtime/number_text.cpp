@@ -53,8 +53,9 @@ Int16 StrictInt16(std::string_view text) {
 
 std::string SingleText(double value) {
   const auto single = static_cast<float>(value);
-  const int leading =
-      single == 0.0F ? 0 : static_cast<int>(std::floor(std::log10(std::fabs(single))));
+  // In 64 bits: in 32 the logarithm of what lies just below 100 would be that of 100.
+  const double size = std::fabs(static_cast<double>(single));
+  const int leading = size == 0.0 ? 0 : static_cast<int>(std::floor(std::log10(size)));
   return Fixed(single, std::max(0, 6 - leading));
 }
 

@@ -1,0 +1,134 @@
+#include "runtime/number_text.h"
+
+#include <clocale>
+#include <gtest/gtest.h>
+#include <locale>
+
+#include "runtime/failure.h"
+
+namespace orvane {
+namespace {
+
+TEST(LenientNumber, SkipsBlanksAndStopsAtWhatIsNoPartOfANumber) {
+  EXPECT_EQ(LenientNumber("  11.140"), 11.14);
+  EXPECT_EQ(LenientNumber(" -0.5 "), -0.5);
+  EXPECT_EQ(LenientNumber("+2.5"), 2.5);
+  EXPECT_EQ(LenientNumber("1.5x9"), 1.5);
+  EXPECT_EQ(LenientNumber("1,5"), 1.0);
+  EXPECT_EQ(LenientNumber(".25"), 0.25);
+}
+
+TEST(LenientNumber, ATextThatBeginsWithNoNumberIs0) {
+  for (const char* text : {"", "   ", "abc", "-", "+", ".", "+-3", "nan", "inf"}) {
+    EXPECT_EQ(LenientNumber(text), 0.0) << text;
+  }
+}
+
+TEST(StrictInt16, TakesBlanksSignDecimalsAndExponent) {
+  EXPECT_EQ(StrictInt16("   1"), 1);
+  EXPECT_EQ(StrictInt16(" -12 "), -12);
+  EXPECT_EQ(StrictInt16("+7"), 7);
+  EXPECT_EQ(StrictInt16("1e3"), 1000);
+  EXPECT_EQ(StrictInt16("12.25"), 12);
+}
+
+TEST(StrictInt16, AHalfGoesToTheEvenNeighbour) {
+  EXPECT_EQ(StrictInt16("2.5"), 2);
+  EXPECT_EQ(StrictInt16("3.5"), 4);
+  EXPECT_EQ(StrictInt16("-2.5"), -2);
+}
+
+TEST(StrictInt16, RefusesWhatIsNotANumberThroughout) {
+  for (const char* text :
+       {"", "    ", "1A", "A1", "1 2", "1,5", "--1", "+-1", "0x10", "nan", "inf", "1e", "1.2.3"}) {
+    EXPECT_THROW(StrictInt16(text), Failure) << text;
+  }
+}
+
+TEST(StrictInt16, RefusesWhatDoesNotFit) {
+  EXPECT_EQ(StrictInt16("32767"), 32767);
+  EXPECT_THROW(StrictInt16("32768"), Failure);
+  EXPECT_THROW(StrictInt16("-32769"), Failure);
+  EXPECT_THROW(StrictInt16("1e400"), Failure);
+}
+
+TEST(SingleText, HasSevenSignificantDigitsAndNoExponent) {
+  EXPECT_EQ(SingleText(11.944), "11.94400");
+  EXPECT_EQ(SingleText(1.5), "1.500000");
+  EXPECT_EQ(SingleText(-8.25), "-8.250000");
+  EXPECT_EQ(SingleText(123.0), "123.0000");
+  EXPECT_EQ(SingleText(0.0), "0.000000");
+  EXPECT_EQ(SingleText(0.0078125), "0.007812500");  // 2^-7, exact
+  EXPECT_EQ(SingleText(12345678.0), "12345678");
+}
+
+TEST(SingleText, NarrowsTo32BitsFirst) {
+  // The nearest 32-bit value to 16777217 is 16777216.
+  EXPECT_EQ(SingleText(16777217.0), "16777216");
+}
+
+TEST(SingleText, JustBelowAPowerOfTenKeepsItsNines) {
+  // The largest 32-bit value below 10 is 10 - 2^-20 = 9.99999905: cut to six characters, 9.9999.
+  EXPECT_EQ(SingleText(10.0 - 1.0 / 1048576), "9.999999");
+  // Below 100 it is 100 - 2^-17 = 99.9999924.
+  EXPECT_EQ(SingleText(100.0 - 1.0 / 131072), "99.99999");
+}
+
+TEST(TwoDecimals, HasTwoDigitsBeforeThePointAtLeast) {
+  EXPECT_EQ(TwoDecimals(1.5), "01.50");
+  EXPECT_EQ(TwoDecimals(0.0), "00.00");
+  EXPECT_EQ(TwoDecimals(12.345678), "12.35");
+  EXPECT_EQ(TwoDecimals(179.996), "180.00");
+  EXPECT_EQ(TwoDecimals(9.999), "10.00");
+}
+
+TEST(TwoDecimals, PutsASignBeforeWhatIsBelowZeroAndNoMinusBeforeZero) {
+  EXPECT_EQ(TwoDecimals(-57.0), "-57.00");
+  EXPECT_EQ(TwoDecimals(-1.25), "-01.25");
+  EXPECT_EQ(TwoDecimals(-0.001), "00.00");
+  EXPECT_EQ(TwoDecimals(-0.0), "00.00");
+}
+
+TEST(Com2Pnt, MakesEveryCommaAPoint) {
+  EXPECT_EQ(Com2Pnt("1,5"), "1.5");
+  EXPECT_EQ(Com2Pnt(",,"), "..");
+  EXPECT_EQ(Com2Pnt("1.5 A"), "1.5 A");
+  EXPECT_EQ(Com2Pnt(""), "");
+}
+
+// A decimal comma, as in much of the world, for as long as the test runs: in the streams always, in
+// the C library where such a locale is installed.
+class CommaLocale {
+ public:
+  CommaLocale() {
+    std::locale::global(std::locale(before_, new Comma));
+    for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE.utf8"}) {
+      if (std::setlocale(LC_NUMERIC, name) != nullptr) break;
+    }
+  }
+  ~CommaLocale() {
+    std::locale::global(before_);
+    std::setlocale(LC_NUMERIC, "C");
+  }
+
+ private:
+  struct Comma : std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+  };
+  std::locale before_ = std::locale();
+};
+
+TEST(NumberText, ThePointIsTheSeparatorWhateverTheLocale) {
+  const CommaLocale comma;
+  EXPECT_EQ(LenientNumber("1.5"), 1.5);
+  EXPECT_EQ(LenientNumber("1,5"), 1.0);
+  EXPECT_EQ(StrictInt16("2.0"), 2);
+  EXPECT_THROW(StrictInt16("2,0"), Failure);
+  EXPECT_EQ(SingleText(1.5), "1.500000");
+  EXPECT_EQ(TwoDecimals(1234.5), "1234.50");
+}
+
+}  // namespace
+}  // namespace orvane
