@@ -8,7 +8,36 @@
 namespace orvane {
 namespace {
 
+constexpr Colour kTraceColour = Rgb(1, 2, 3);
+constexpr Colour kPlaneColour = Rgb(4, 5, 6);
+
+// What the passes do, a word each; the same word again is left out.
+struct Passes : SurfaceTrace {
+  std::vector<std::string> Words;
+  void Add(const char* word) {
+    if (Words.empty() || Words.back() != word) Words.emplace_back(word);
+  }
+  void PictureSet(int) override { Words.emplace_back("wipe"); }
+  void BackColorSet(Colour) override {}
+  void Drawn(const Stroke& stroke, std::string_view) override {
+    Add(stroke.Ink == kTraceColour ? "trace" : stroke.Ink == kPlaneColour ? "planes" : "atoms");
+  }
+};
+
 struct RedrawChainTest : testing::Test, PlacedAtoms {
+  // A stock strand with its planes, and what a redraw does to it.
+  std::vector<std::string> PassesOver(const std::string& text) {
+    Load(desk, text);
+    desk.drawing.ChainPlanes = 1;
+    desk.colours.PenColour = kTraceColour;
+    desk.colours.PlaneColour = kPlaneColour;
+    Passes passes;
+    desk.main.Picture1.Trace = &passes;
+    RedrawView(desk);
+    desk.main.Picture1.Trace = nullptr;
+    return passes.Words;
+  }
+
   // 4 wide and 2 high: centre 2, 1, and 0.25 of the half surface, 45 pixels, to an Angstrom.
   void LoadTwo() { Load(desk, Record("N", 0, 0, 0) + Record("O", 4, 2, 0)); }
 };
@@ -65,6 +94,33 @@ TEST_F(RedrawChainTest, AFamilyThatIsNoneRunsNoPainter) {
   RedrawView(desk);
 
   EXPECT_EQ(Strokes(), "Print 0 0 #000000 \"kept\"\n");
+}
+
+TEST_F(RedrawChainTest, PlanesComeAfterTheMoleculeAndOnTopOfIt) {
+  desk.drawing.PeptideOn = 1;
+
+  EXPECT_EQ(PassesOver(desk.stock.TextBetb), (std::vector<std::string>{"wipe", "atoms", "planes"}));
+}
+
+TEST_F(RedrawChainTest, PlanesAloneArePaintedOnceTheMoleculeIsWiped) {
+  desk.drawing.PeptideOn = 1;
+  desk.drawing.PlanesOnly = 1;
+
+  EXPECT_EQ(PassesOver(desk.stock.TextBetb),
+            (std::vector<std::string>{"wipe", "atoms", "wipe", "planes"}));
+}
+
+TEST_F(RedrawChainTest, PlanesGoOnTopOfATraceToo) {
+  desk.drawing.DrawFamily = 1;
+  desk.drawing.PeptideOn = 1;
+
+  EXPECT_EQ(PassesOver(desk.stock.TextBeta), (std::vector<std::string>{"wipe", "trace", "planes"}));
+}
+
+TEST_F(RedrawChainTest, WithoutPeptideOnNoPlaneIsPainted) {
+  desk.drawing.PlanesOnly = 1;
+
+  EXPECT_EQ(PassesOver(desk.stock.TextBetb), (std::vector<std::string>{"wipe", "atoms"}));
 }
 
 TEST_F(RedrawChainTest, FastWireJoinsPlacesOfAtomsWithTheNumbersOfBonds) {
