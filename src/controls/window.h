@@ -19,6 +19,8 @@ inline constexpr int kPointerDefault = 0;
 inline constexpr int kPointerCross = 2;
 inline constexpr int kPointerHourglass = 11;
 
+enum class WindowState { Normal, Minimised, Maximised };
+
 class Window : public Control {
  public:
   // The first row of the table is the window's own. `prefix` is what stands before the names of its
@@ -26,6 +28,7 @@ class Window : public Control {
   Window(std::span<const ControlRow> table, std::string_view prefix);
 
   Watched<int, Aspect::Pointer> MousePointer;
+  WindowState State = WindowState::Normal;  // as the last resize left it
   const std::span<const ControlRow> Table;
   const std::string Prefix;
   std::vector<Control*> Controls;  // in the order in which they stack, lowest first

@@ -103,6 +103,12 @@ void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach) {
   Deliver(desk, control, {.Kind = EventKind::Key, .KeyCode = key_code}, reach);
 }
 
+void Resize(Orvane_Desk& desk, Window& window, Place now, WindowState state) {
+  window.State = state;
+  window.At = now;
+  RunToItsEnd(desk, window, [&] { window.Raise({.Kind = EventKind::Resize}); });
+}
+
 void Tick(Orvane_Desk& desk, Timer& timer, Reach reach) {
   if (reach == Reach::AsUser && !timer.Enabled) return;
   RunToItsEnd(desk, timer, [&] { timer.Raise({.Kind = EventKind::Tick}); });

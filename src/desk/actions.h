@@ -35,6 +35,9 @@ void DropBar(Orvane_Desk& desk, ScrollBar& bar, Reach reach = Reach::AsUser);
 void TypeText(Orvane_Desk& desk, TextBox& box, std::string_view text, Reach reach = Reach::AsUser);
 void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach = Reach::AsUser);
 
+// The user or the screen has given a window another size; it is at `now`.
+void Resize(Orvane_Desk& desk, Window& window, Place now, WindowState state);
+
 // One tick of a timer, if it is enabled. No user's action: it comes with its window hidden, too.
 void Tick(Orvane_Desk& desk, Timer& timer, Reach reach = Reach::AsUser);
 

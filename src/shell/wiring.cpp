@@ -10,6 +10,7 @@
 #include "output/recording.h"
 #include "ramachandran/hover.h"
 #include "ramachandran/survey.h"
+#include "shell/geometry.h"
 #include "shell/information.h"
 #include "shell/panels.h"
 #include "shell/pointer_shape.h"
@@ -61,6 +62,7 @@ constexpr Wire kWires[] = {
     {"Panel3D5",      Enter,   DropCross},
     {"Sz_Balls",      Enter,   DropCross},
     {"Orvane_Desk",   Enter,   DropCross},
+    {"Orvane_Desk",   Resize,  Orvane_Desk_Resize},
     {"VScroll1",      Focus,   DropCross},
     {"X_TRANS",       Focus,   DropCross},
     {"Y_TRANS",       Focus,   DropCross},

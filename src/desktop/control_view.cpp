@@ -1,0 +1,152 @@
+#include "desktop/control_view.h"
+
+#include <algorithm>
+
+#include "desk/actions.h"
+#include "desktop/palette.h"
+#include "desktop/skin.h"
+#include "desktop/type.h"
+#include "desktop/window_widget.h"
+
+namespace orvane {
+namespace {
+
+Place Absolute(const Control& control) {
+  Place place = control.At;
+  for (const Control* above = control.Parent; above != nullptr; above = above->Parent) {
+    place.Left += above->At.Get().Left;
+    place.Top += above->At.Get().Top;
+  }
+  return place;
+}
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+ControlView::ControlView(WindowWidget& owner, Control& shown, QWidget& own)
+    : control(shown), widget(own), host(owner) {
+  widget.setObjectName(Text(control.FullName()));
+  widget.setAccessibleDescription(Text(control.Row.Tip));
+  widget.setToolTip(Text(control.Row.Tip));
+  widget.setMouseTracking(true);
+  widget.setFocusPolicy(control.Row.TabStop > 0 ? Qt::StrongFocus : Qt::NoFocus);
+  widget.setEnabled(control.Enabled);
+  widget.setVisible(control.Visible);
+  ControlView::Take(Aspect::Caption);
+}
+
+void ControlView::Take(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::Visible:
+      widget.setVisible(control.Visible);
+      break;
+    case Aspect::Enabled:
+      widget.setEnabled(control.Enabled);
+      break;
+    case Aspect::Place:
+      Lay();
+      break;
+    case Aspect::Front:
+      widget.raise();
+      break;
+    case Aspect::Focus:
+      widget.setFocus();
+      break;
+    case Aspect::Caption:
+      widget.setAccessibleName(control.Row.Spoken.empty()
+                                   ? WithoutMnemonic(Text(control.Caption.Get())).trimmed()
+                                   : Text(control.Row.Spoken));
+      break;
+    default:
+      break;
+  }
+  widget.update();
+}
+
+void ControlView::Lay() {
+  const QWidget* above = widget.parentWidget();
+  spot_ = SpotOf(host.scale, host.OnDesk(Absolute(control)), Outset());
+  widget.setGeometry(spot_.Hull.translated(-above->mapTo(&host.Desk(), QPoint(0, 0))));
+}
+
+double ControlView::Unit() const { return host.scale.Unit(); }
+
+QRectF ControlView::FaceInWidget() const {
+  const double ratio = host.scale.Ratio;
+  return {QPointF(spot_.Face.topLeft()) / ratio - spot_.Hull.topLeft(),
+          QSizeF(spot_.Face.size()) / ratio};
+}
+
+QPointF ControlView::SurfacePoint(QPointF widget_point) const {
+  return (widget_point - FaceInWidget().topLeft()) / host.scale.Factor;
+}
+
+void ControlView::Hear(QEvent& event) {
+  switch (event.type()) {
+    case QEvent::Enter:
+    case QEvent::MouseMove:
+      host.PointerOver(control);
+      break;
+    case QEvent::FocusIn:
+      FocusComes(host.skin.desk, control);
+      break;
+    default:
+      break;
+  }
+  switch (event.type()) {
+    case QEvent::Enter:
+    case QEvent::Leave:
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+      widget.update();
+      break;
+    default:
+      break;
+  }
+}
+
+QRect ControlView::EnterPixels(QPainter& painter) const {
+  EnterDevicePixels(painter, host.scale, spot_);
+  return {QPoint(0, 0), spot_.Face.size()};
+}
+
+void PaintPlate(QPainter& painter, const QRect& face, QRgb fill, QRgb edge, double corner,
+                int width) {
+  painter.setPen(Qt::NoPen);
+  if (qAlpha(edge) != 0) {
+    painter.setBrush(QColor::fromRgba(edge));
+    painter.drawRoundedRect(face, corner, corner);
+    const double inner = std::max(0.0, corner - width);
+    painter.setBrush(QColor::fromRgba(fill));
+    painter.drawRoundedRect(face.adjusted(width, width, -width, -width), inner, inner);
+  } else if (qAlpha(fill) != 0) {
+    painter.setBrush(QColor::fromRgba(fill));
+    painter.drawRoundedRect(face, corner, corner);
+  }
+}
+
+void PaintRing(QPainter& painter, const QRect& face, QRgb ink, double corner, double unit,
+               bool white_within) {
+  const auto line = [&](double from, double thick, QRgb colour) {
+    const double middle = (from + thick / 2) * unit;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor::fromRgba(colour), thick * unit));
+    const double round = std::max(0.0, corner * unit - middle);
+    painter.drawRoundedRect(QRectF(face).adjusted(middle, middle, -middle, -middle), round, round);
+  };
+  if (white_within) line(2, 1, palette::kFace);
+  line(0, 2, ink);
+}
+
+void PaintShadow(QPainter& painter, const QRect& face, double corner, int reach) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(8, 20, 30, 14));
+  for (int step = reach; step > 0; --step) {
+    painter.drawRoundedRect(face.adjusted(-step, -step, step, step), corner + step, corner + step);
+  }
+}
+
+}  // namespace orvane

@@ -1,0 +1,43 @@
+// How plates are dressed: faces, edges, type. A control without a row of its own is dressed by its
+// kind; panels and buttons then change their look with bevel, text style and state.
+#pragma once
+
+#include <string_view>
+
+#include "controls/control.h"
+#include "desktop/palette.h"
+#include "desktop/type.h"
+
+namespace orvane {
+
+enum class Side { Left, Centre, Right };
+
+enum class Cut {
+  Plain,    // face, edge and line of text
+  Bevel,    // by bevel and text style, with hover and press
+  Heading,  // joined to the list below: no lower corners, no lower edge
+  Swatch,   // face is the control's back colour
+  Tab,      // a tab at the desk's edge, with its caption in a flyout
+  GoOn,     // round, with an arrow
+  Icon,     // the program's
+};
+
+struct Dress {
+  std::string_view Control;  // name with the window's prefix, without index; or "" at the end
+  Cut Shape = Cut::Plain;
+  QRgb Face = palette::kNone;
+  QRgb Edge = palette::kNone;
+  int Corner = 0;  // pixels
+  QRgb Ink = palette::kInk;
+  Type Letters{};
+  Side Align = Side::Centre;
+  int TextLeft = 0, TextTop = -1;  // pixels; TextTop -1: in the middle; else the box of one line
+  int LineHeight = 0;              // of a text of several lines, broken where it is wider
+  bool Floats = false;             // above everything on the desk, with a shadow
+  bool Upwards = false;            // text turned by 90 degrees
+  bool LooksPressed = false;       // Bevel: drawn as bevel 1 whatever its style
+};
+
+const Dress& DressOf(const Control& control);
+
+}  // namespace orvane

@@ -1,0 +1,24 @@
+// The desktop program.
+#include <memory>
+
+#include <QApplication>
+
+#include "desktop/look_style.h"
+#include "desktop/qt_platform.h"
+#include "desktop/skin.h"
+
+int main(int count, char** words) {
+  QApplication::setDesktopSettingsAware(false);
+  QApplication application(count, words);
+  QApplication::setApplicationName(QStringLiteral("Orvane"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  orvane::DressApplication(application);
+
+  orvane::QtPlatform platform;
+  const auto desk = std::make_unique<orvane::Orvane_Desk>(platform);
+  orvane::Skin skin(*desk, platform);
+  // The start chain begins here; until its windows are drawn, the desk itself is the first.
+  desk->front.Hide();
+  desk->main.Show();
+  return QApplication::exec();
+}

@@ -1,0 +1,78 @@
+#include "desktop/picture_widget.h"
+
+#include "controls/kinds.h"
+#include "desk/actions.h"
+#include "desktop/palette.h"
+#include "desktop/plate.h"
+#include "desktop/skin.h"
+#include "desktop/window_widget.h"
+#include "draw/surface.h"
+
+namespace orvane {
+
+PictureWidget::PictureWidget(WindowWidget& owner, Control& shown, QWidget& parent)
+    : Viewed(owner, shown, parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PictureWidget::Take(Aspect aspect) {
+  const bool drawn =
+      aspect == Aspect::Surface || aspect == Aspect::Picture || aspect == Aspect::BackColor;
+  if (!drawn) return ControlView::Take(aspect);
+  stale_ = true;
+  host.skin.RepaintSoon(*this);
+}
+
+void PictureWidget::Lay() {
+  ControlView::Lay();
+  stale_ = true;
+}
+
+std::shared_ptr<const Picture> PictureWidget::Now() const {
+  if (const auto* box = dynamic_cast<const PictureBox*>(&control)) return box->Image();
+  if (const auto* image = dynamic_cast<const ImageBox*>(&control)) return image->Shown();
+  return nullptr;
+}
+
+// The picture's width fills the control's, so an image box shows a snapshot of any size as its own.
+void PictureWidget::RasterOnce() {
+  const QSize size = Stand().Face.size();
+  if (pixels_.size() != size) pixels_ = QImage(size, QImage::Format_RGB32);
+  stale_ = false;
+  const auto picture = Now();
+  if (picture == nullptr || picture->Width == 0) return pixels_.fill(Qt::black);
+  host.skin.raster.Paint(*picture, static_cast<double>(size.width()) / picture->Width,
+                         reinterpret_cast<std::uint32_t*>(pixels_.bits()), size.width(),
+                         size.height(), static_cast<int>(pixels_.bytesPerLine() / 4));
+}
+
+void PictureWidget::paintEvent(QPaintEvent*) {
+  if (stale_) RasterOnce();
+  QPainter painter(this);
+  const QRect face = EnterPixels(painter);
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.drawImage(face.topLeft(), pixels_);
+}
+
+void PictureWidget::mousePressEvent(QMouseEvent* event) {
+  held_ = event->button() == Qt::LeftButton;
+  const QPointF at = SurfacePoint(event->position());
+  Press(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
+        static_cast<float>(at.y()));
+}
+
+void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
+  const QPointF at = SurfacePoint(event->position());
+  Move(host.skin.desk, control, ButtonsOf(event->buttons()), static_cast<float>(at.x()),
+       static_cast<float>(at.y()));
+}
+
+void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const QPointF at = SurfacePoint(event->position());
+  Release(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
+          static_cast<float>(at.y()));
+  if (held_ && FaceInWidget().contains(event->position())) Click(host.skin.desk, control);
+  held_ = false;
+}
+
+}  // namespace orvane

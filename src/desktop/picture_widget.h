@@ -1,0 +1,34 @@
+// A picture box or an image box: the strokes of its picture, rastered at the screen's own density.
+#pragma once
+
+#include <QImage>
+#include <QMouseEvent>
+
+#include "desktop/control_view.h"
+#include "draw/picture.h"
+
+namespace orvane {
+
+class PictureWidget : public Viewed<QWidget> {
+ public:
+  PictureWidget(WindowWidget& owner, Control& shown, QWidget& parent);
+
+  void Take(Aspect aspect) override;
+  void Lay() override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  std::shared_ptr<const Picture> Now() const;
+  void RasterOnce();
+
+  bool stale_ = true;  // the pixels are older than the picture
+  bool held_ = false;
+  QImage pixels_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,42 @@
+// Panels, buttons, toggles, labels and ornaments: a face, an edge and a caption; a press and a
+// click.
+#pragma once
+
+#include <QMouseEvent>
+#include <QWidget>
+
+#include "desktop/control_view.h"
+#include "desktop/dress.h"
+
+namespace orvane {
+
+class Plate : public Viewed<QWidget> {
+ public:
+  Plate(WindowWidget& owner, Control& shown, QWidget& parent);
+
+  void Take(Aspect aspect) override;
+
+ protected:
+  double Outset() const override;
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+
+ private:
+  void PaintBevel(QPainter& painter, const QRect& face);
+  void PaintSwatch(QPainter& painter, const QRect& face);
+  void PaintPlain(QPainter& painter, const QRect& face);
+  void PaintCaption(QPainter& painter, const QRect& face, QRgb ink, Type letters);
+
+  const Dress& dress_;
+  bool held_ = false;
+};
+
+// Left, right and middle button, as events count them; the sum of those held for a move.
+int ButtonOf(Qt::MouseButton button);
+int ButtonsOf(Qt::MouseButtons buttons);
+
+}  // namespace orvane

@@ -1,0 +1,97 @@
+#include "desktop/qt_platform.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QThread>
+
+#include "runtime/failure.h"
+
+namespace orvane {
+namespace {
+
+constexpr const char* kTitle = "Orvane";
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// Counts a box for as long as it is up.
+struct BoxUp {
+  explicit BoxUp(int& boxes) : count(boxes) { ++count; }
+  ~BoxUp() { --count; }
+  int& count;
+};
+
+// OK is the default, Escape closes.
+void ShowBox(std::string_view text, QMessageBox::Icon icon) {
+  QMessageBox box(icon, QString::fromLatin1(kTitle), Text(text), QMessageBox::Ok,
+                  QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(QMessageBox::Ok);
+  box.exec();
+}
+
+}  // namespace
+
+void QtPlatform::Beep() { QApplication::beep(); }
+
+void QtPlatform::MessageBox(std::string_view text) {
+  const BoxUp up(boxes_);
+  ShowBox(text, QMessageBox::NoIcon);
+}
+
+void QtPlatform::WarningBox(std::string_view text) {
+  const BoxUp up(boxes_);
+  ShowBox(text, QMessageBox::Warning);
+}
+
+void QtPlatform::FailureBox(std::string_view text) {
+  const BoxUp up(boxes_);
+  ShowBox(text, QMessageBox::Critical);
+}
+
+std::string QtPlatform::InputBox(std::string_view prompt, std::string_view title) {
+  const BoxUp up(boxes_);
+  return QInputDialog::getText(QApplication::activeWindow(),
+                               title.empty() ? QString::fromLatin1(kTitle) : Text(title),
+                               Text(prompt))
+      .toStdString();
+}
+
+void QtPlatform::LetEventsRun() { QCoreApplication::processEvents(); }
+
+void QtPlatform::Wait(int seconds) {
+  QElapsedTimer clock;
+  clock.start();
+  while (!ended_ && clock.elapsed() < 1000LL * seconds) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    QThread::msleep(1);
+  }
+}
+
+void QtPlatform::EndProgram() {
+  ended_ = true;
+  QCoreApplication::exit(0);
+}
+
+void QtPlatform::SavePicture(const SaveRequest&) {
+  FailPlatform("picture files cannot be written yet");
+}
+
+bool QtPlatform::PrintWindow(Window&) { return false; }
+
+std::string QtPlatform::ProgramFolder() {
+  return QCoreApplication::applicationDirPath().toStdString();
+}
+
+int QtPlatform::SoundOpen(const std::string&) { FailPlatform("sound files cannot be played yet"); }
+
+void QtPlatform::SoundPlay() {}
+void QtPlatform::SoundStop() {}
+void QtPlatform::SoundClose() {}
+bool QtPlatform::SoundIsOpen() { return false; }
+int QtPlatform::SoundLength() { return 0; }
+
+}  // namespace orvane

@@ -1,0 +1,61 @@
+#include "desktop/skin.h"
+
+#include "desk/actions.h"
+#include "desktop/control_view.h"
+#include "desktop/window_widget.h"
+
+namespace orvane {
+
+Skin::Skin(Orvane_Desk& of, QtPlatform& outside) : desk(of), platform(outside) {
+  for (Window* window : desk.windows) {
+    window->Watcher = this;
+    for (Control* control : window->Controls) {
+      if (auto* timer = dynamic_cast<Timer*>(control)) SetTimer(*timer);
+    }
+  }
+}
+
+Skin::~Skin() {
+  for (Window* window : desk.windows) window->Watcher = nullptr;
+}
+
+void Skin::Changed(Control& control, Aspect aspect) {
+  if (auto* timer = dynamic_cast<Timer*>(&control)) return SetTimer(*timer);
+  const bool comes = &control == &control.Owner && aspect == Aspect::Visible && control.Visible;
+  if (comes) WindowOf(control.Owner);
+  const auto window = windows_.find(&control.Owner);
+  if (window != windows_.end()) window->second->Take(control, aspect);
+}
+
+WindowWidget& Skin::WindowOf(Window& window) {
+  std::unique_ptr<WindowWidget>& widget = windows_[&window];
+  if (widget == nullptr) widget = std::make_unique<WindowWidget>(*this, window);
+  return *widget;
+}
+
+QWidget* Skin::WidgetOf(const Control& control) {
+  ControlView* view = WindowOf(control.Owner).ViewOf(control);
+  return view == nullptr ? nullptr : &view->widget;
+}
+
+void Skin::RepaintSoon(QWidget& picture) { picture.update(); }
+
+void Skin::SetTimer(Timer& timer) {
+  std::unique_ptr<QTimer>& own = timers_[&timer];
+  if (own == nullptr) {
+    own = std::make_unique<QTimer>();
+    own->setObjectName(QString::fromStdString(timer.FullName()));
+    own->setTimerType(Qt::PreciseTimer);
+    QObject::connect(own.get(), &QTimer::timeout, [this, &timer] { TickOf(timer); });
+  }
+  if (own->interval() != timer.Interval) own->setInterval(timer.Interval);
+  if (!timer.Enabled) own->stop();
+  if (timer.Enabled && !own->isActive()) own->start();
+}
+
+void Skin::TickOf(Timer& timer) {
+  if (platform.BoxIsUp()) return;
+  Tick(desk, timer);
+}
+
+}  // namespace orvane

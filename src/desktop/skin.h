@@ -1,0 +1,45 @@
+// The windows of the desk on the screen: hears of each change of a control and shows it.
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+
+#include <QPointer>
+#include <QTimer>
+
+#include "controls/window.h"
+#include "desk/orvane_desk.h"
+#include "desktop/qt_platform.h"
+#include "draw/raster.h"
+
+namespace orvane {
+
+class WindowWidget;
+
+class Skin : public ControlWatcher {
+ public:
+  Skin(Orvane_Desk& desk, QtPlatform& platform);
+  ~Skin() override;
+
+  Orvane_Desk& desk;
+  QtPlatform& platform;
+  Raster raster;  // shared by all pictures, for what it keeps between paints
+
+  void Changed(Control& control, Aspect aspect) override;
+
+  // A window is made when it is first shown or asked for.
+  WindowWidget& WindowOf(Window& window);
+  QWidget* WidgetOf(const Control& control);
+
+  // Pictures are painted at most once in a screen's beat, however often they were drawn on.
+  void RepaintSoon(QWidget& picture);
+
+ private:
+  void SetTimer(Timer& timer);
+  void TickOf(Timer& timer);
+
+  std::unordered_map<const Window*, std::unique_ptr<WindowWidget>> windows_;
+  std::unordered_map<const Timer*, std::unique_ptr<QTimer>> timers_;
+};
+
+}  // namespace orvane

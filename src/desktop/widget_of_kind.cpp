@@ -1,0 +1,37 @@
+#include "desktop/widget_of_kind.h"
+
+#include "controls/kinds.h"
+#include "controls/scroll_bar.h"
+#include "desktop/bar_widget.h"
+#include "desktop/dress.h"
+#include "desktop/list_widget.h"
+#include "desktop/picture_widget.h"
+#include "desktop/plate.h"
+#include "desktop/tab_widget.h"
+#include "desktop/text_widget.h"
+
+namespace orvane {
+
+ControlView* MakeView(WindowWidget& window, Control& control, QWidget& parent) {
+  switch (control.Row.Kind) {
+    case ControlKind::Timer:
+    case ControlKind::MenuEntry:
+    case ControlKind::Window:
+      return nullptr;
+    case ControlKind::List:
+      return new ListWidget(window, dynamic_cast<List&>(control), parent);
+    case ControlKind::ScrollBar:
+      return new BarWidget(window, dynamic_cast<ScrollBar&>(control), parent);
+    case ControlKind::TextBox:
+      return new TextWidget(window, dynamic_cast<TextBox&>(control), parent);
+    case ControlKind::PictureBox:
+    case ControlKind::ImageBox:
+      return new PictureWidget(window, control, parent);
+    default:
+      break;
+  }
+  if (DressOf(control).Shape == Cut::Tab) return new TabWidget(window, control, parent);
+  return new Plate(window, control, parent);
+}
+
+}  // namespace orvane

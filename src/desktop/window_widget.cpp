@@ -1,0 +1,207 @@
+#include "desktop/window_widget.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWindow>
+
+#include "desk/actions.h"
+#include "desktop/control_view.h"
+#include "desktop/dress.h"
+#include "desktop/flyout.h"
+#include "desktop/menu_strip.h"
+#include "desktop/palette.h"
+#include "desktop/skin.h"
+#include "desktop/widget_of_kind.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kStripHeight = 300;  // twips
+
+QSize PlanSize(const Window& window) {
+  const Place at = window.Row.At;
+  return {at.Width / TwipsPerPixel, at.Height / TwipsPerPixel};
+}
+
+WindowState StateOf(const QWidget& widget) {
+  return widget.isMinimized()                            ? WindowState::Minimised
+         : widget.isMaximized() || widget.isFullScreen() ? WindowState::Maximised
+                                                         : WindowState::Normal;
+}
+
+Qt::CursorShape ShapeOf(int pointer) {
+  return pointer == kPointerCross       ? Qt::CrossCursor
+         : pointer == kPointerHourglass ? Qt::WaitCursor
+                                        : Qt::ArrowCursor;
+}
+
+}  // namespace
+
+Ground::Ground(WindowWidget& window) : QWidget(&window), window_(window) { setMouseTracking(true); }
+
+void Ground::paintEvent(QPaintEvent*) {
+  QPainter(this).fillRect(rect(), QColor::fromRgba(palette::kGround));
+}
+
+void Ground::mouseMoveEvent(QMouseEvent*) { window_.PointerOver(window_.shown); }
+void Ground::mousePressEvent(QMouseEvent* event) { event->accept(); }
+
+WindowWidget::WindowWidget(Skin& of, Window& window) : skin(of), shown(window) {
+  setObjectName(QString::fromStdString(shown.Name));
+  setWindowTitle(QString::fromStdString(shown.Caption));
+  setMinimumSize(PlanSize(shown));
+  resize(PlanSize(shown));
+  desk_ = new Ground(*this);
+  flyout = new Flyout(*this, *desk_);
+  MakeWidgets();
+  SetTabOrder();
+  setCursor(ShapeOf(shown.MousePointer));
+}
+
+WindowWidget::~WindowWidget() = default;
+
+void WindowWidget::MakeWidgets() {
+  if (HasMenus(shown)) strip = new MenuStrip(*this, *desk_);
+  for (Control* control : shown.Controls) {
+    const auto above = views_.find(control->Parent);
+    QWidget& parent = above == views_.end() ? *desk_ : above->second->widget;
+    if (ControlView* view = MakeView(*this, *control, parent)) views_[control] = view;
+  }
+  flyout->raise();
+}
+
+ControlView* WindowWidget::ViewOf(const Control& control) const {
+  const auto found = views_.find(&control);
+  return found == views_.end() ? nullptr : found->second;
+}
+
+void WindowWidget::Take(Control& control, Aspect aspect) {
+  if (&control == &shown) return TakeWindow(aspect);
+  if (control.Row.Kind == ControlKind::MenuEntry) return strip->Take(control);
+  if (ControlView* view = ViewOf(control)) view->Take(aspect);
+}
+
+void WindowWidget::TakeWindow(Aspect aspect) {
+  switch (aspect) {
+    case Aspect::Caption:
+      setWindowTitle(QString::fromStdString(shown.Caption));
+      break;
+    case Aspect::Pointer:
+      setCursor(ShapeOf(shown.MousePointer));
+      break;
+    case Aspect::Visible:
+      setVisible(shown.Visible);
+      break;
+    case Aspect::Front:
+      raise();
+      activateWindow();
+      break;
+    case Aspect::Place:
+      if (StateOf(*this) == WindowState::Normal) {
+        const Place at = shown.At;
+        resize(at.Width / TwipsPerPixel, at.Height / TwipsPerPixel);
+        move(at.Left / TwipsPerPixel, at.Top / TwipsPerPixel);
+      }
+      break;
+    default:
+      break;
+  }
+}
+
+Place WindowWidget::OnDesk(Place place) const {
+  if (strip != nullptr) place.Top += kStripHeight;
+  return place;
+}
+
+void WindowWidget::LayAll() {
+  const QSize plan = PlanSize(shown);
+  const bool large = StateOf(*this) == WindowState::Maximised;
+  scale.Factor = large ? std::min(static_cast<double>(width()) / plan.width(),
+                                  static_cast<double>(height()) / plan.height())
+                       : 1;
+  scale.Ratio = devicePixelRatioF();
+  const QSize desk(static_cast<int>(std::lround(plan.width() * scale.Factor)),
+                   static_cast<int>(std::lround(plan.height() * scale.Factor)));
+  desk_->setGeometry(large ? (width() - desk.width()) / 2 : 0,
+                     large ? (height() - desk.height()) / 2 : 0, desk.width(), desk.height());
+  if (strip != nullptr) strip->Lay();
+  for (Control* control : shown.Controls) {
+    if (ControlView* view = ViewOf(*control)) view->Lay();
+  }
+  flyout->hide();
+}
+
+void WindowWidget::paintEvent(QPaintEvent*) {
+  QPainter(this).fillRect(rect(), QColor::fromRgba(palette::kBand));
+}
+
+// What the user or the window manager does to the size is the logic's to judge.
+void WindowWidget::resizeEvent(QResizeEvent* event) {
+  LayAll();
+  if (!event->spontaneous()) return;
+  const Place now{x() * TwipsPerPixel, y() * TwipsPerPixel, width() * TwipsPerPixel,
+                  height() * TwipsPerPixel};
+  Resize(skin.desk, shown, now, StateOf(*this));
+}
+
+void WindowWidget::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (event->spontaneous()) return;
+  LayAll();
+  if (StateOf(*this) == WindowState::Normal) {
+    move(screen()->availableGeometry().center() - frameGeometry().center() +
+         frameGeometry().topLeft());
+  }
+  connect(windowHandle(), &QWindow::screenChanged, this, [this] { LayAll(); });
+}
+
+void WindowWidget::closeEvent(QCloseEvent* event) {
+  event->accept();
+  skin.platform.EndProgram();
+}
+
+void WindowWidget::PointerOver(Control& control) {
+  if (under_pointer_ == &control) return;
+  under_pointer_ = &control;
+  PointerEnters(skin.desk, control);
+}
+
+void WindowWidget::FloatingPanelTurned(Control& panel) {
+  panel_from_ = nullptr;
+  if (panel.Visible) {
+    ViewOf(panel)->widget.raise();
+    for (const auto& [control, view] : views_) {
+      if (view->widget.hasFocus()) panel_from_ = &view->control;
+    }
+  }
+  SetTabOrder();
+}
+
+// The stops in their order; those of a floating panel come next to whoever had the keyboard when it
+// was opened.
+void WindowWidget::SetTabOrder() {
+  std::vector<Control*> stops, floating;
+  for (Control* control : shown.Controls) {
+    if (control->Row.TabStop == 0 || ViewOf(*control) == nullptr) continue;
+    const bool floats = control->Parent != nullptr && DressOf(*control->Parent).Floats;
+    (floats ? floating : stops).push_back(control);
+  }
+  const auto by_stop = [](const Control* a, const Control* b) {
+    return a->Row.TabStop < b->Row.TabStop;
+  };
+  std::ranges::sort(stops, by_stop);
+  std::ranges::sort(floating, by_stop);
+  const auto from = std::ranges::find(stops, panel_from_);
+  stops.insert(from == stops.end() ? from : from + 1, floating.begin(), floating.end());
+  for (std::size_t i = 1; i < stops.size(); ++i) {
+    QWidget::setTabOrder(&ViewOf(*stops[i - 1])->widget, &ViewOf(*stops[i])->widget);
+  }
+  if (focusWidget() == nullptr && !stops.empty()) ViewOf(*stops.front())->widget.setFocus();
+}
+
+}  // namespace orvane

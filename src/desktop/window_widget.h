@@ -1,0 +1,75 @@
+// A window on the screen: its table walked, a widget made for each row.
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+
+#include <QWidget>
+
+#include "controls/window.h"
+#include "desktop/scale.h"
+
+namespace orvane {
+
+class ControlView;
+class Flyout;
+class MenuStrip;
+class Skin;
+class WindowWidget;
+
+// What the controls stand on; centred in a maximised window.
+class Ground : public QWidget {
+ public:
+  explicit Ground(WindowWidget& window);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  WindowWidget& window_;
+};
+
+class WindowWidget : public QWidget {
+ public:
+  WindowWidget(Skin& skin, Window& shown);
+  ~WindowWidget() override;
+
+  Skin& skin;
+  Window& shown;
+  Scale scale;
+  Flyout* flyout = nullptr;
+  MenuStrip* strip = nullptr;  // none in a window without menus
+
+  QWidget& Desk() { return *desk_; }
+  ControlView* ViewOf(const Control& control) const;
+  void Take(Control& control, Aspect aspect);
+
+  // Twips from the window's inner top left, below the strip if there is one, to twips of the desk.
+  Place OnDesk(Place place) const;
+  int PlanWidth() const { return shown.Row.At.Width; }
+  int PlanHeight() const { return shown.Row.At.Height; }
+
+  void PointerOver(Control& control);        // tells of it once, when it comes
+  void FloatingPanelTurned(Control& panel);  // one was opened or closed
+  void LayAll();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void MakeWidgets();
+  void TakeWindow(Aspect aspect);
+  void SetTabOrder();
+
+  Ground* desk_;
+  std::unordered_map<const Control*, ControlView*> views_;
+  const Control* under_pointer_ = nullptr;
+  Control* panel_from_ = nullptr;  // who had the keyboard when a floating panel was opened
+};
+
+}  // namespace orvane
