@@ -34,7 +34,7 @@ need_packages() {
     as_root=(sudo)
   fi
 
-  say "installing what is missing (${#missing[@]} Debian packages): ${missing[*]}"
+  say "installing what is missing: ${missing[*]}"
   if ! quietly "${as_root[@]}" apt-get -qq -o DPkg::Lock::Timeout=300 update ||
     ! quietly "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y \
       --no-install-recommends -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 \
