@@ -5,6 +5,7 @@
 add_library(orvane_options INTERFACE)
 target_compile_options(orvane_options INTERFACE
   -ffp-contract=off
+  -fno-math-errno  # changes no value: nobody reads errno behind a square root
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
   -Wformat=2 -Wimplicit-fallthrough)
 
