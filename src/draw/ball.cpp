@@ -111,22 +111,34 @@ void BlitPart(const Canvas& canvas, int left, int top, const Sprite& sprite) {
   }
 }
 
-// A ball too large for a sprite, pixel by pixel.
+// A ball too large for a sprite, row by row: its rims pixel by pixel, what is between them at once.
 void DrawLarge(const Canvas& canvas, double x, double y, const Ball& ball) {
-  const double reach = ball.Radius + ball.Width;
   const auto within = [](double value, int size) {
     return static_cast<int>(std::clamp(value, 0.0, static_cast<double>(size)));
   };
-  const int left = within(x - reach, canvas.Width);
-  const int right = within(x + reach + 2, canvas.Width);
-  const int bottom = within(y + reach + 2, canvas.Height);
+  const auto half_chord = [](double radius, double down) {
+    return radius > std::abs(down) ? std::sqrt(radius * radius - down * down) : 0;
+  };
+  const double reach = ball.Radius + ball.Width / 2 + 1;
+  const double core = ball.Radius - ball.Width / 2 - 1;
+  const int bottom = within(y + reach + 1, canvas.Height);
   for (int row = within(y - reach, canvas.Height); row < bottom; ++row) {
     std::uint32_t* words = canvas.Row(row);
-    for (int column = left; column < right; ++column) {
-      const double dx = column - x;
-      const double dy = row - y;
-      MixOne(words[column], WordAt(ball, std::sqrt(dx * dx + dy * dy)));
-    }
+    const double down = row - y;
+    const auto mix = [&](int first, int last) {
+      for (int column = first; column < last; ++column) {
+        const double across = column - x;
+        MixOne(words[column], WordAt(ball, std::sqrt(across * across + down * down)));
+      }
+    };
+    const double outer = half_chord(reach, down), inner = half_chord(core, down);
+    const int first = within(x - outer, canvas.Width);
+    const int last = within(x + outer + 1, canvas.Width);
+    const int core_first = std::clamp(within(x - inner + 1, canvas.Width), first, last);
+    const int core_last = std::clamp(within(x + inner, canvas.Width), core_first, last);
+    mix(first, core_first);
+    if (ball.Filled) std::fill(words + core_first, words + core_last, WordOf(ball.Fill));
+    mix(core_last, last);
   }
 }
 

@@ -25,8 +25,6 @@ constexpr std::uint32_t WordOf(Colour colour) {
 // Four pixels side by side; the compiler has registers for them.
 using Words4 [[gnu::vector_size(16)]] = std::uint32_t;
 using Halves8 [[gnu::vector_size(16)]] = std::uint16_t;
-using Floats4 [[gnu::vector_size(16)]] = float;
-using Ints4 [[gnu::vector_size(16)]] = std::int32_t;
 
 inline Words4 Load(const std::uint32_t* words) {
   Words4 four;

@@ -23,6 +23,7 @@ constexpr double kThinnest = 0.75;   // canvas pixels; a finer pen would fade aw
 double CentreOn(double scale, float place) { return (place + 0.5) * scale - 0.5; }
 
 double PenOn(double scale, int width) { return std::max(width, 1) * scale; }
+double LineOn(double scale, int width) { return std::max(PenOn(scale, width), kThinnest); }
 
 // The canvas pixel that the corner of a surface pixel falls on; false for one that is nowhere near.
 bool CornerOn(double scale, float place, int& pixel) {
@@ -42,20 +43,29 @@ void FillPlain(const Canvas& canvas, std::uint32_t word) {
   }
 }
 
-void DrawLine(const Canvas& canvas, double scale, const Stroke& stroke, Joints joints) {
+void DrawLine(const Canvas& canvas, double scale, std::span<const Stroke> strokes,
+              std::size_t index) {
+  const Stroke& stroke = strokes[index];
   Segment segment{.X1 = CentreOn(scale, stroke.X1),
                   .Y1 = CentreOn(scale, stroke.Y1),
                   .X2 = CentreOn(scale, stroke.X2),
                   .Y2 = CentreOn(scale, stroke.Y2),
-                  .Width = std::max(PenOn(scale, stroke.Width), kThinnest),
+                  .Width = LineOn(scale, stroke.Width),
                   .Ink = stroke.Ink};
-  const bool is_dot = stroke.X1 == stroke.X2 && stroke.Y1 == stroke.Y2;
-  if (stroke.Style == 2 && stroke.Width <= 1 && !is_dot) {
+  if (stroke.Style == 2 && stroke.Width <= 1) {
     return DrawDashes(canvas, segment, std::max(kDash * scale, kShortestDash));
   }
+  const Joints joints = JointsOf(strokes, index);
   segment.FlatStart = joints.Start;
   segment.FlatEnd = segment.CoveredEnd = joints.End;
   DrawSegment(canvas, segment);
+}
+
+bool IsDot(const Stroke& line) { return line.X1 == line.X2 && line.Y1 == line.Y2; }
+
+// What a round pen leaves that does not move.
+Ball DotOn(double scale, const Stroke& line) {
+  return {.Radius = LineOn(scale, line.Width) / 2, .Width = 0, .Ink = line.Ink, .Fill = line.Ink};
 }
 
 Ball BallOn(double scale, const Stroke& stroke) {
@@ -93,7 +103,12 @@ void Raster::Paint(const Picture& picture, double scale, std::uint32_t* words, i
     const Stroke& stroke = strokes[index];
     switch (stroke.Kind) {
       case StrokeKind::Line:
-        DrawLine(canvas, scale, stroke, JointsOf(strokes, index));
+        if (IsDot(stroke)) {
+          caches_->Balls.Draw(canvas, CentreOn(scale, stroke.X1), CentreOn(scale, stroke.Y1),
+                              DotOn(scale, stroke));
+        } else {
+          DrawLine(canvas, scale, strokes, index);
+        }
         break;
       case StrokeKind::Circle:
         caches_->Balls.Draw(canvas, CentreOn(scale, stroke.X1), CentreOn(scale, stroke.Y1),

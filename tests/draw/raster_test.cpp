@@ -66,6 +66,23 @@ TEST(RasterTest, ALineOfWidth2OnACentreCoversHalfOfTheRowsBesideIt) {
             "  0   0   0   0\n");
 }
 
+TEST(RasterTest, ALongBroadLineKeepsItsSoftEdges) {
+  // Width 6 about row 10 reaches from 7 to 13, whose pixels are covered by half. Upright likewise.
+  SmallPicture lying(60, 21), upright(21, 60);
+  lying.Line(-9, 10, 99, 10, 6);
+  upright.Line(10, -9, 10, 99, 6);
+  const Bitmap first = Raster().Paint(lying), second = Raster().Paint(upright);
+
+  for (int along = 0; along < 60; ++along) {
+    for (int across = 0; across < 21; ++across) {
+      const int distance = std::abs(across - 10);
+      const int expected = distance < 3 ? 255 : distance == 3 ? 128 : 0;
+      ASSERT_EQ(RedAt(first, along, across), expected);
+      ASSERT_EQ(RedAt(second, across, along), expected);
+    }
+  }
+}
+
 TEST(RasterTest, AWidthOfNothingIsDrawnLikeWidth1) {
   SmallPicture none(5, 3), one(5, 3);
   none.Line(0, 0, 4, 2, 0);
@@ -242,9 +259,25 @@ TEST(RasterTest, ALargeCircleIsDrawnWithoutASprite) {
   EXPECT_EQ(WordAt(bitmap, 272, 150), 0xFF000000u);
 }
 
+TEST(RasterTest, ALargeCircleHasNoGapBetweenRimAndCore) {
+  // Of a ball of 20 pixels at a scale of 4 only the size differs from a sprite's. Down its middle
+  // and across it: filled up to 79.5 - 0.5, then the outline.
+  SmallPicture picture(60, 60);
+  picture.Circle(30, 30, 20, Rgb(255, 0, 0), Rgb(255, 0, 0));
+  const Bitmap bitmap = Raster().Paint(picture, 4);
+
+  for (int y = 0; y < 240; ++y) {
+    for (int x = 0; x < 240; ++x) {
+      // The centre is at (30 + 0.5) * 4 - 0.5 and the outline ends 2 behind the radius of 80.
+      const double distance = std::hypot(x - 121.5, y - 121.5);
+      if (distance > 81.5 && distance < 82.5) continue;
+      EXPECT_EQ(RedAt(bitmap, x, y), distance < 82 ? 255 : 0) << x << " " << y;
+    }
+  }
+}
+
 TEST(RasterTest, AtScale2ALineIsTwicePixelsWide) {
-  // Pixel 1 of the surface is pixels 2 and 3 of the canvas; the round ends soften the corners:
-  // their pixels lie 0.71 from the end point, of which 1 + 0.5 - 0.71 = 0.79 is within, 203 of 256.
+  // Row 1 of the surface is rows 2 and 3 of the canvas.
   SmallPicture picture(5, 3);
   picture.Line(-9, 1, 99, 1, 1);
 
