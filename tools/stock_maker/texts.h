@@ -1,0 +1,20 @@
+// Every text that the program compiles in, built from the tables.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace orvane::stock_maker {
+
+// One constant of the program: its name and its records back to back. The closing blank of the last
+// record is there only where another piece follows or the text ends in one.
+struct StockText {
+  std::string name;
+  std::string records;
+};
+
+// Builds all of them in the order of fixed_texts.tsv and texts.tsv. Refuses, with a message that
+// names the table and row or the record, whatever in the tables of `folder` does not fit.
+std::vector<StockText> MakeTexts(const std::string& folder);
+
+}  // namespace orvane::stock_maker
