@@ -45,9 +45,10 @@ Int16 StrictInt16(std::string_view text) {
   number = WithoutPlus(number);
   double value = 0.0;
   const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
-  if (error == std::errc::result_out_of_range) FailOverflow();
   const bool whole_text_read = !number.empty() && end == number.data() + number.size();
   if (error != std::errc() || !whole_text_read || !std::isfinite(value)) FailConversion(text);
+  // Named by its text, which the user knows; 32767.5 would round to the even neighbour above.
+  if (value < -32768.5 || value >= 32767.5) FailConversion(text);
   return RoundToInt16(value);
 }
 
