@@ -1,6 +1,10 @@
 #include "shell/wiring.h"
 
 #include "core/selection.h"
+#include "draw/background_commands.h"
+#include "draw/colours.h"
+#include "draw/draw_commands.h"
+#include "draw/labels.h"
 #include "draw/size_keys.h"
 #include "measure/hydrogen_bond_button.h"
 #include "measure/measure_buttons.h"
@@ -103,7 +107,35 @@ constexpr Wire kWires[] = {
     {"P_Dst_Show",    Click,   P_Dst_Show_Click},
 
     // draw
+    {"MlClr",         Click,   MlClr_Click},
+    {"LbClr",         Click,   LbClr_Click},
+    {"PbClr",         Click,   PbClr_Click},
+    {"BkGd",          Click,   BkGd_Click},
+    {"ClPlt",         Click,   ClPlt_Click},
+    {"Bk_Cl",         Click,   Bk_Cl_Click},
+    {"Wt_Cl",         Click,   Wt_Cl_Click},
+    {"COL_RGB",       Click,   COL_RGB_Click},
+    {"Bgr1",          Click,   [](Orvane_Desk& desk) { Bgr_Click(desk, 0); }},
+    {"Bgr2",          Click,   [](Orvane_Desk& desk) { Bgr_Click(desk, 1); }},
+    {"Bgr3",          Click,   [](Orvane_Desk& desk) { Bgr_Click(desk, 2); }},
+    {"Bgr4",          Click,   [](Orvane_Desk& desk) { Bgr_Click(desk, 3); }},
+    {"Bgr5",          Click,   [](Orvane_Desk& desk) { Bgr_Click(desk, 4); }},
+    {"D_Wf",          Click,   D_Wf_Click},
+    {"M_Stk",         Click,   M_Stk_Click},
+    {"M_Rbn",         Click,   M_Rbn_Click},
+    {"D_Ca",          Click,   D_Ca_Click},
+    {"D_StB",         Click,   D_StB_Click},
+    {"Cartn",         Click,   Cartn_Click},
+    {"OPB",           Click,   OPB_Click},
+    {"PPB_SB",        Click,   PPB_SB_Click},
+    {"Bt_BlS",        Click,   Bt_BlS_Click},
+    {"Bt_CA_Trace",   Click,   Bt_CA_Trace_Click},
+    {"Bt3_Label",     Click,   Bt3_Label_Click},
     {"Sz_Balls",      Press,   Sz_Balls_MouseDown},
+    {"P_Clr",         Press,   P_Clr_MouseDown},
+    {"P_Clr",         Click,   P_Clr_Click},
+    {"RGB_V",         Key,     RGB_V_KeyDown},
+    {"Do_color",      Click,   Do_color_Click},
 
     // shell: information windows and sound
     {"WatN",       Click,   WatN_Click},

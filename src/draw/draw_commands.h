@@ -1,0 +1,28 @@
+// In which way the structure is drawn: the entries of "Draw in" and "Peptide Bond", and the two
+// buttons that switch between ways.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// Each entry sets the mode fields of its row, paints, and composes what its row says. With no
+// structure the first three do nothing at all, not even a beep.
+void D_Wf_Click(Orvane_Desk& desk);
+void M_Stk_Click(Orvane_Desk& desk);
+void D_StB_Click(Orvane_Desk& desk);
+void D_Ca_Click(Orvane_Desk& desk);
+void M_Rbn_Click(Orvane_Desk& desk);
+void Cartn_Click(Orvane_Desk& desk);
+void OPB_Click(Orvane_Desk& desk);
+void PPB_SB_Click(Orvane_Desk& desk);
+
+// Wire frame or balls; the caption names what a click will give. Paints the atom family whatever
+// DrawFamily is, and leaves DrawFamily alone.
+void Bt_BlS_Click(Orvane_Desk& desk);
+
+// Atoms or trace; the caption tells the state. Leaves RibbonOn and CartoonOn alone, so that the
+// trace comes back as it was last drawn.
+void Bt_CA_Trace_Click(Orvane_Desk& desk);
+
+}  // namespace orvane

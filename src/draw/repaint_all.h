@@ -1,0 +1,12 @@
+// The picture once more, after what lies behind it has changed.
+#pragma once
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// The passes over ScrX, ScrY as they stand, then the composed views that are on. In the red-green
+// view the painter of the family is left out, since the composition runs it in its own two colours.
+void RepaintAll(Orvane_Desk& desk);
+
+}  // namespace orvane
