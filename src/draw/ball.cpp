@@ -38,63 +38,86 @@ std::uint32_t WordAt(const Ball& ball, double distance) {
   return Part(outer) << 24 | Blend(WordOf(ball.Ink), WordOf(ball.Fill), share);
 }
 
+// 0 to 255 becomes 0 to 256, so that a full cover hides all.
+Sprite::Four FourOf(Words4 words) {
+  const Words4 top = words >> 24;
+  const Halves8 cover = InBoth(top + (top >> 7));
+  return {Weighted(Split(words | 0xFF000000u), cover), 256 - cover};
+}
+
+void MixOne(std::uint32_t& under, std::uint32_t word) {
+  const Sprite::Four four = FourOf(Words4{word});
+  under = Mix(Words4{under}, four.Ink, four.Rest)[0];
+}
+
+// Where a row's pixels begin and end, and which of them are copied.
+Sprite::Row RowOf(const std::uint32_t* words, int side, bool filled) {
+  Sprite::Row row{.First = side};
+  int solid_last = 0;
+  row.Solid = side;
+  for (int x = 0; x < side; ++x) {
+    const std::uint32_t cover = words[x] >> 24;
+    if (cover == 0) continue;
+    row.First = std::min(row.First, x);
+    row.Last = x + 1;
+    if (cover < 255 || !filled) continue;
+    row.Solid = std::min(row.Solid, x);
+    solid_last = x + 1;
+  }
+  row.First = std::min(row.First, row.Last);
+  row.Solid = std::min(row.Solid, row.Last);
+  row.Copied = std::max(0, solid_last - row.Solid) / 4 * 4;
+  return row;
+}
+
+// The edges in the order in which BlitWhole comes by them.
+void AddEdges(Sprite& sprite, const Sprite::Row& row, const std::uint32_t* words) {
+  const auto add = [&](int from, int to) {
+    for (int x = from; x < to; x += 4) {
+      std::uint32_t four[4] = {};
+      std::copy(words + x, words + std::min(x + 4, sprite.Side), four);
+      sprite.Edges.push_back(FourOf(Load(four)));
+    }
+  };
+  add(row.First, row.Solid);
+  add(row.Solid + row.Copied, row.Last);
+}
+
 Sprite MakeSprite(const Ball& ball, double phase_x, double phase_y) {
   const int reach = static_cast<int>(std::ceil(ball.Radius + ball.Width / 2 + 0.5)) + 1;
   Sprite sprite;
   sprite.Side = 2 * reach + 1;
-  sprite.Stride = sprite.Side + 4;
   sprite.Left = -reach;
-  sprite.Words.assign(static_cast<std::size_t>(sprite.Side) * sprite.Stride, 0);
+  sprite.Words.resize(static_cast<std::size_t>(sprite.Side) * sprite.Side);
   for (int y = 0; y < sprite.Side; ++y) {
-    std::uint32_t* row = &sprite.Words[static_cast<std::size_t>(y) * sprite.Stride];
-    Sprite::Row range{sprite.Side, 0, sprite.Side, 0};
+    std::uint32_t* words = &sprite.Words[static_cast<std::size_t>(y) * sprite.Side];
     for (int x = 0; x < sprite.Side; ++x) {
       const double dx = x - reach - phase_x;
       const double dy = y - reach - phase_y;
-      row[x] = WordAt(ball, std::sqrt(dx * dx + dy * dy));
-      const std::uint32_t cover = row[x] >> 24;
-      if (cover == 0) continue;
-      range.First = std::min(range.First, x);
-      range.Last = x + 1;
-      if (cover == 255 && ball.Filled) {
-        range.SolidFirst = std::min(range.SolidFirst, x);
-        range.SolidLast = x + 1;
-      }
+      words[x] = WordAt(ball, std::sqrt(dx * dx + dy * dy));
     }
-    // A row without solid pixels ends where its solid part would begin.
-    if (range.SolidLast <= range.SolidFirst) range.SolidFirst = range.SolidLast = range.Last;
-    if (range.Last <= range.First) range = {};
-    sprite.Rows.push_back(range);
+    sprite.Rows.push_back(RowOf(words, sprite.Side, ball.Filled));
+    AddEdges(sprite, sprite.Rows.back(), words);
   }
   return sprite;
 }
 
-// 0 to 255 becomes 0 to 256, so that a full cover hides all.
-Words4 CoverOf(Words4 words) {
-  const Words4 cover = words >> 24;
-  return cover + (cover >> 7);
-}
-
-void MixFour(std::uint32_t* under, const std::uint32_t* words) {
-  const Words4 ink = Load(words);
-  Store(under, Mix(Load(under), Split(ink | 0xFF000000u), CoverOf(ink)));
-}
-
-void MixOne(std::uint32_t& under, std::uint32_t word) {
-  under = Mix(Words4{under}, Split(Words4{word | 0xFF000000u}), CoverOf(Words4{word}))[0];
-}
-
-// For a sprite whose rows and the empty words behind them lie on the canvas.
+// For a sprite that lies on the canvas with four pixels to spare on its right.
 void BlitWhole(const Canvas& canvas, int left, int top, const Sprite& sprite) {
+  const Sprite::Four* edge = sprite.Edges.data();
   const std::uint32_t* source = sprite.Words.data();
   std::uint32_t* words = canvas.Row(top) + left;
+  const auto mix = [&](int x) {
+    Store(words + x, Mix(Load(words + x), edge->Ink, edge->Rest));
+    ++edge;
+  };
   for (const Sprite::Row& row : sprite.Rows) {
-    for (int x = row.First; x < row.SolidFirst; x += 4) MixFour(words + x, source + x);
-    int x = row.SolidFirst;
-    for (; x + 4 <= row.SolidLast; x += 4) Store(words + x, Load(source + x));
-    // The pixels that are left and the far edge.
-    for (; x < row.Last; x += 4) MixFour(words + x, source + x);
-    source += sprite.Stride;
+    int x = row.First;
+    for (; x < row.Solid; x += 4) mix(x);
+    const int copied_last = row.Solid + row.Copied;
+    for (x = row.Solid; x < copied_last; x += 4) Store(words + x, Load(source + x));
+    for (; x < row.Last; x += 4) mix(x);
+    source += sprite.Side;
     words += canvas.Stride;
   }
 }
@@ -104,7 +127,7 @@ void BlitPart(const Canvas& canvas, int left, int top, const Sprite& sprite) {
   const int last_row = std::min(sprite.Side, canvas.Height - top);
   for (int y = first_row; y < last_row; ++y) {
     const Sprite::Row& row = sprite.Rows[static_cast<std::size_t>(y)];
-    const std::uint32_t* source = &sprite.Words[static_cast<std::size_t>(y) * sprite.Stride];
+    const std::uint32_t* source = &sprite.Words[static_cast<std::size_t>(y) * sprite.Side];
     std::uint32_t* words = canvas.Row(top + y);
     const int last = std::min(row.Last, canvas.Width - left);
     for (int x = std::max(row.First, -left); x < last; ++x) MixOne(words[left + x], source[x]);
@@ -178,11 +201,11 @@ void BallSprites::Draw(const Canvas& canvas, double x, double y, const Ball& bal
   std::unique_ptr<Sprite>& sprite = SetOf(ball).At[phase_y * kPhases + phase_x];
   if (!sprite) {
     sprite = std::make_unique<Sprite>(MakeSprite(ball, phase_x / 4.0, phase_y / 4.0));
-    words_ += sprite->Words.size();
+    words_ += sprite->Words.size() + 12 * sprite->Edges.size();
   }
   const int left = (quarters_x >> 2) + sprite->Left;
   const int top = (quarters_y >> 2) + sprite->Left;
-  if (left >= 0 && top >= 0 && left + sprite->Stride <= canvas.Width &&
+  if (left >= 0 && top >= 0 && left + sprite->Side + 4 <= canvas.Width &&
       top + sprite->Side <= canvas.Height) {
     BlitWhole(canvas, left, top, *sprite);
   } else {

@@ -21,17 +21,23 @@ struct Ball {
   friend bool operator==(const Ball&, const Ball&) = default;
 };
 
-// A ball in its square: a word's top byte is how much of the pixel it covers.
+// A ball in its square. Its core is copied and its edge is mixed, four pixels at a time.
 struct Sprite {
   struct Row {
-    int First = 0, Last = 0;            // pixels that are touched, one past the last
-    int SolidFirst = 0, SolidLast = 0;  // pixels of these that hide what is below
+    int First = 0, Last = 0;  // pixels that are touched, one past the last
+    int Solid = 0;            // the first that hides what is below; where there is none, Last
+    int Copied = 0;           // pixels from there on that are copied
   };
-  int Side = 0;    // pixels to a row of the ball
-  int Stride = 0;  // words to a row, with empty ones behind the ball
-  int Left = 0;    // of the square, from the pixel of the centre; its top is the same
+  struct Four {
+    Channels Ink;  // weighted with its cover
+    Halves8 Rest;  // what is left of the ground
+  };
+
+  int Side = 0;  // pixels to a row and to a column
+  int Left = 0;  // of the square, from the pixel of the centre; its top is the same
   std::vector<Row> Rows;
-  std::vector<std::uint32_t> Words;
+  std::vector<std::uint32_t> Words;  // of the whole square; the top byte is the cover
+  std::vector<Four> Edges;           // row by row, those before the copied pixels and those behind
 };
 
 // The balls that were drawn lately, each at 4 by 4 places within a pixel.

@@ -41,14 +41,19 @@ inline Channels Split(Words4 four) {
   return {(Halves8)(four & 0x00FF00FFu), (Halves8)((four >> 8) & 0x00FF00FFu)};
 }
 
-// Ink over what is there; cover runs from 0, nothing, to 256, ink alone.
-inline Words4 Mix(Words4 under, const Channels& ink, Words4 cover) {
-  const Halves8 part = (Halves8)(cover | cover << 16);
-  const Halves8 rest = 256 - part;
+// A cover of 0 to 256, in both halves of each word: of blue and red, or of green and the top byte.
+inline Halves8 InBoth(Words4 cover) { return (Halves8)(cover | cover << 16); }
+
+// Ink times its cover, with what rounds to the nearest.
+inline Channels Weighted(const Channels& ink, Halves8 cover) {
+  return {ink.BlueRed * cover + 128, ink.GreenTop * cover + 128};
+}
+
+// What is there, of which `rest` of 256 is left, with the ink of the other part over it.
+inline Words4 Mix(Words4 under, const Channels& weighted_ink, Halves8 rest) {
   const Channels old = Split(under);
-  const Halves8 blue_red = (old.BlueRed * rest + ink.BlueRed * part + 128) >> 8;
-  const Halves8 green_top = (old.GreenTop * rest + ink.GreenTop * part + 128) & 0xFF00;
-  return (Words4)blue_red | (Words4)green_top;
+  return (Words4)((old.BlueRed * rest + weighted_ink.BlueRed) >> 8) |
+         (Words4)((old.GreenTop * rest + weighted_ink.GreenTop) & 0xFF00);
 }
 
 // Calls mix(words, step) for every four words of a row from `first` up to `last`, `step` being 0, 4

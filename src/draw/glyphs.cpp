@@ -15,8 +15,6 @@ constexpr std::size_t kMostLabels = 4096;  // numbers of picks differ from one t
 constexpr std::size_t kLongestText = 256;  // letters; the rest would be off the surface
 constexpr double kLargestType = 400;       // pixels; beyond it a letter is larger than a screen
 
-using Byte4 [[gnu::vector_size(4)]] = std::uint8_t;
-
 // A glyph's ink, with its place in the label.
 struct Placed {
   int Left = 0, Top = 0;
@@ -101,8 +99,10 @@ const Label& Labels::Of(std::string_view text, double scale) {
     for (int y = 0; y < glyph.Height; ++y) {
       for (int x = 0; x < glyph.Width; ++x) {
         const int at = (glyph.Top - label.Top + y) * label.Stride + glyph.Left - label.Left + x;
-        std::uint8_t& cover = label.Mask[static_cast<std::size_t>(at)];
-        cover = std::max(cover, glyph.Mask[static_cast<std::size_t>(y * glyph.Width + x)]);
+        const std::uint32_t grey = glyph.Mask[static_cast<std::size_t>(y * glyph.Width + x)];
+        const std::uint32_t part = grey + (grey >> 7);  // 255 hides all
+        std::uint32_t& cover = label.Mask[static_cast<std::size_t>(at)];
+        cover = std::max(cover, part | part << 16);
       }
     }
   }
@@ -117,16 +117,11 @@ void DrawLabel(const Canvas& canvas, int x, int y, const Label& label, Colour co
   const int last = std::min(canvas.Width, left + label.Width);
   const int bottom = std::min(canvas.Height, top + label.Height);
   for (int row = std::max(0, top); row < bottom; ++row) {
-    const std::uint8_t* mask =
+    const std::uint32_t* mask =
         &label.Mask[static_cast<std::size_t>(row - top) * label.Stride + (first - left)];
     ForFours(canvas, row, first, last, [&](std::uint32_t* words, int step) {
-      Byte4 four;
-      std::memcpy(&four, mask + step, sizeof four);
-      std::uint32_t any;
-      std::memcpy(&any, mask + step, sizeof any);
-      if (any == 0) return;
-      const Words4 cover = __builtin_convertvector(four, Words4);
-      Store(words, Mix(Load(words), ink, cover + (cover >> 7)));
+      const auto cover = (Halves8)Load(mask + step);
+      Store(words, Mix(Load(words), Weighted(ink, cover), 256 - cover));
     });
   }
 }

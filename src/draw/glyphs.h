@@ -15,12 +15,13 @@ namespace orvane {
 
 inline constexpr double kTypeSize = 11;  // surface pixels
 
-// The ink of one text, from 0 to 255 a pixel.
+// The ink of one text.
 struct Label {
   int Left = 0, Top = 0;      // from the top left of the first character cell
   int Width = 0, Height = 0;  // of the ink
-  int Stride = 0;             // bytes to a row, with empty ones behind the ink
-  std::vector<std::uint8_t> Mask;
+  int Stride = 0;             // words to a row, with empty ones behind the ink
+  // How much of each pixel is covered, from 0 to 256, in both halves of its word.
+  std::vector<std::uint32_t> Mask;
 };
 
 // The labels that were drawn lately, one for each distinct text at each scale.
