@@ -16,7 +16,7 @@ enum class EventKind {
   Scroll,   // the thumb of a bar moves under the pointer
   Tick,     // the interval of a timer is over
   Failed,   // an operation that began at this control ended in a failure
-  Resize,       // the window has another size; its place and state are set before
+  Resize,   // the window has another size; its place and state are set before
 };
 
 // Pointer buttons, as they are counted in an event; a Move carries their sum.

@@ -15,10 +15,9 @@ struct PlaneLine {
 
 // The lines of a stock chain with hydrogens, whose atoms and bonds stand in one fixed order.
 constexpr PlaneLine kChainLines[] = {
-    {true, 13, "C ", "N "},   // the peptide bond
-    {true, 1, "O ", "CA"},    // the oxygen to the alpha carbons on both sides
-    {true, 13, "O ", "CA"},
-    {true, 1, "H1", "CA"},    // the amide hydrogen likewise
+    {true, 13, "C ", "N "},  // the peptide bond
+    {true, 1, "O ", "CA"},   // the oxygen to the alpha carbons on both sides
+    {true, 13, "O ", "CA"},  {true, 1, "H1", "CA"},  // the amide hydrogen likewise
     {false, 14, "CA", "H1"},
 };
 
@@ -54,8 +53,8 @@ void MarkPlaneAtom(Orvane_Desk& desk, int i) {
 void CloseMarkedPlane(Orvane_Desk& desk) {
   const Drawing& drawing = desk.drawing;
   const auto& names = desk.molecule.AtomName;
-  const bool all_seen = drawing.PlaneCA2 != 0 && drawing.PlaneH != 0 && drawing.PlaneO != 0 &&
-                        drawing.PlaneCA1 != 0;
+  const bool all_seen =
+      drawing.PlaneCA2 != 0 && drawing.PlaneH != 0 && drawing.PlaneO != 0 && drawing.PlaneCA1 != 0;
   if (!all_seen) return;
   if (ShortName(names[drawing.PlaneO]) != "O!" || ShortName(names[drawing.PlaneH]) != "H!") return;
   Join(desk, drawing.PlaneH, drawing.PlaneCA2);

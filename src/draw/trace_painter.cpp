@@ -67,7 +67,8 @@ void PaintTraceFamily(Orvane_Desk& desk) {
     // an alpha carbon is joined to itself, a dot.
     const int a = molecule.BondA[i];
     const int b = molecule.BondB[i + kNextAlphaCarbon];
-    if (ShortName(molecule.AtomName[a]) != "CA" || ShortName(molecule.AtomName[b]) != "CA") continue;
+    if (ShortName(molecule.AtomName[a]) != "CA" || ShortName(molecule.AtomName[b]) != "CA")
+      continue;
     if (DistanceAsRead(molecule, a, b) < kJoinedBelow) {
       PaintSegment(desk.main.Picture1, molecule, a, b, look, colour);
     }
