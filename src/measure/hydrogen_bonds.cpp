@@ -1,5 +1,7 @@
 #include "measure/hydrogen_bonds.h"
 
+#include <span>
+
 #include "core/loader.h"
 #include "measure/distance.h"
 
@@ -21,43 +23,51 @@ constexpr BondingPair kBasePairs[] = {
     {"N2", "O2", 2.0F, 3.3F},
 };
 // Everywhere else any nitrogen with any oxygen, by the element's letter.
-constexpr BondingPair kNitrogenOxygen = {"N", "O", 2.7F, 3.1F};
+constexpr BondingPair kNitrogenOxygen[] = {{"N", "O", 2.7F, 3.1F}};
 
-bool Names(const BondingPair& pair, std::string_view a, std::string_view b) {
-  return (a == pair.One && b == pair.Other) || (a == pair.Other && b == pair.One);
+// What an atom looks for in the others: a name has one partner at most.
+struct Partner {
+  std::string_view Name;
+  const BondingPair* Row = nullptr;  // nullptr: none
+};
+
+Partner PartnerIn(std::span<const BondingPair> table, std::string_view name) {
+  for (const BondingPair& row : table) {
+    if (name == row.One) return {row.Other, &row};
+    if (name == row.Other) return {row.One, &row};
+  }
+  return {};
 }
 
-// The row that the names of the pair match, if any. A mode that is neither 0 nor 1 matches nothing.
-const BondingPair* RowFor(const NameField& a, const NameField& b, int nucleic_mode) {
-  if (nucleic_mode == 1) {
-    for (const BondingPair& pair : kBasePairs) {
-      if (Names(pair, ShortName(a), ShortName(b))) return &pair;
-    }
-  }
-  if (nucleic_mode == 0 && Names(kNitrogenOxygen, ElementLetter(a), ElementLetter(b))) {
-    return &kNitrogenOxygen;
-  }
-  return nullptr;
+// How many characters of a name the tables of a mode compare; a mode that is neither 0 nor 1 has no
+// table.
+std::size_t CutWidth(int nucleic_mode) { return nucleic_mode == 1 ? 2 : 1; }
+
+Partner PartnerOf(const NameField& name, int nucleic_mode) {
+  if (nucleic_mode == 1) return PartnerIn(kBasePairs, ShortName(name));
+  if (nucleic_mode == 0) return PartnerIn(kNitrogenOxygen, ElementLetter(name));
+  return {};
 }
 
 }  // namespace
 
 void FindHydrogenBonds(Orvane_Desk& desk) {
   Molecule& molecule = desk.molecule;
+  const int mode = desk.drawing.NucleicMode;
   molecule.HBondCount = 0;
   for (int i = 1; i <= molecule.AtomCount; ++i) {
     molecule.PointA = {molecule.CurX[i], molecule.CurY[i], molecule.CurZ[i]};
     molecule.BondAtomA = i;
+    // The names first: the distance is worked out only for pairs that pass them.
+    const Partner partner = PartnerOf(molecule.AtomName[i], mode);
     for (int j = 1; j < i; ++j) {
       molecule.PointB = {molecule.CurX[j], molecule.CurY[j], molecule.CurZ[j]};
       molecule.BondAtomB = j;
-      // The names first: the distance is worked out only for pairs that pass them.
-      const BondingPair* row =
-          RowFor(molecule.AtomName[i], molecule.AtomName[j], desk.drawing.NucleicMode);
-      if (row == nullptr) continue;
+      if (partner.Row == nullptr) continue;
+      if (NameCut(molecule.AtomName[j], CutWidth(mode)) != partner.Name) continue;
       Distance(desk);
       const auto length = static_cast<float>(molecule.DistResult);
-      if (length > row->Above && length <= row->UpTo) AppendHBond(molecule);
+      if (length > partner.Row->Above && length <= partner.Row->UpTo) AppendHBond(molecule);
     }
   }
 }
