@@ -8,8 +8,8 @@ void Front_Timer1_Tick(Orvane_Desk& desk) {
   desk.shell.FrontFrame += 1;
   if (desk.shell.FrontFrame == kFrontFrames) desk.shell.FrontFrame = 0;
   const auto frame = static_cast<std::size_t>(desk.shell.FrontFrame);
-  desk.front.Image1[0].SetPicture(desk.front.Pro_Image[frame]);
-  desk.front.Image1[1].SetPicture(desk.front.DNA_Image[frame]);
+  desk.front.Image1[0].SetPicture(desk.front.Pro_Image[frame].Shown());
+  desk.front.Image1[1].SetPicture(desk.front.DNA_Image[frame].Shown());
 }
 
 void Front_Get_in_Click(Orvane_Desk& desk) {

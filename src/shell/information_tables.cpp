@@ -26,6 +26,28 @@ constexpr auto kFrontRows = std::to_array<ControlRow>({
     {.Name = "Author",   .Kind = Link,  .Caption = "The author", .At = {660, 4290, 2400, 330}, .Tip = "Show who wrote Orvane", .TabStop = 2},
     {.Name = "Get_in",   .Kind = GoOn,  .At = {6375, 4230, 450, 450}, .Tip = "Go on", .Spoken = "Go on", .TabStop = 1},
     {.Name = "Timer1",   .Kind = Timer},
+
+    // The frames of the two animations, never shown themselves.
+    {.Name = "Pro_Image(0)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "Pro_Image(1)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "Pro_Image(2)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "Pro_Image(3)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "Pro_Image(4)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "Pro_Image(5)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "Pro_Image(6)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "Pro_Image(7)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "Pro_Image(8)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "Pro_Image(9)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(0)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(1)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(2)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(3)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(4)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(5)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(6)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(7)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(8)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
+    {.Name = "DNA_Image(9)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},
 });
 
 constexpr auto kContentRows = std::to_array<ControlRow>({

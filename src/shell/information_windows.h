@@ -2,9 +2,6 @@
 // order in which the user reaches the desk and hold nothing of the model.
 #pragma once
 
-#include <array>
-#include <memory>
-
 #include "controls/kinds.h"
 #include "shell/information_tables.h"
 
@@ -27,7 +24,8 @@ struct FrontWindow : Window {
   Timer Timer1{*this, "Timer1", kFrontInterval};
 
   // The frames, never shown themselves.
-  std::array<std::shared_ptr<const Picture>, kFrontFrames> Pro_Image, DNA_Image;
+  ControlArray<ImageBox, kFrontFrames> Pro_Image{*this, "Pro_Image"};
+  ControlArray<ImageBox, kFrontFrames> DNA_Image{*this, "DNA_Image"};
 };
 
 struct ContentWindow : Window {

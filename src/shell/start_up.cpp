@@ -1,12 +1,14 @@
 #include "shell/start_up.h"
 
 #include "runtime/arithmetic.h"
+#include "shell/front_frames.h"
 #include "stock/catalogue.h"
 
 namespace orvane {
 
 void Orvane_Desk_Load(Orvane_Desk& desk) {
   desk.main.Hide();
+  FillInformationPictures(desk);
   desk.front.Show();
   desk.main.RCDP.Enabled = false;
   desk.main.Picture1.ResetSurface();

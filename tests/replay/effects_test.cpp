@@ -36,12 +36,10 @@ TEST(APicture, IsPrintedEachTimeItIsGiven) {
 
 TEST(AStoredImage, IsNoSnapshot) {
   Session session;
-  const auto stored = std::make_shared<const Picture>();
-  session.Desk().front.Pro_Image.fill(stored);
-  session.Desk().front.DNA_Image.fill(stored);
+  FrontWindow& front = session.Desk().front;
   EXPECT_EQ(session.Do("tick Orvane_Front.Timer1"), "");
-  EXPECT_EQ(session.Desk().front.Image1[0].Shown(), stored);
-  session.Desk().page.OVN_Icon.SetPicture(stored);
+  EXPECT_EQ(front.Image1[0].Shown(), front.Pro_Image[1].Shown());
+  session.Desk().page.OVN_Icon.SetPicture(front.Pro_Image[1].Shown());
   EXPECT_EQ(session.stream.str(), "");
 }
 

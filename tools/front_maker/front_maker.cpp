@@ -1,0 +1,79 @@
+#include "front_maker/front_maker.h"
+
+#include <memory>
+#include <vector>
+
+#include "desk/actions.h"
+#include "draw/redraw_chain.h"
+#include "shell/front_frames.h"
+#include "shell/information_windows.h"
+#include "view/transform.h"
+
+namespace orvane {
+namespace {
+
+// The maker shows no boxes, so that whatever the desk asks of a platform is a mistake of the maker.
+class NoPlatform : public Platform {
+ public:
+  void Beep() override { Refuse(); }
+  void MessageBox(std::string_view) override { Refuse(); }
+  void WarningBox(std::string_view) override { Refuse(); }
+  void FailureBox(std::string_view) override { Refuse(); }
+  std::string InputBox(std::string_view, std::string_view) override { Refuse(); }
+  void LetEventsRun() override { Refuse(); }
+  void Wait(int) override { Refuse(); }
+  void EndProgram() override { Refuse(); }
+  void SavePicture(const SaveRequest&) override { Refuse(); }
+  bool PrintWindow(Window&) override { Refuse(); }
+  std::string ProgramFolder() override { Refuse(); }
+  int SoundOpen(const std::string&) override { Refuse(); }
+  void SoundPlay() override { Refuse(); }
+  void SoundStop() override { Refuse(); }
+  void SoundClose() override { Refuse(); }
+  bool SoundIsOpen() override { Refuse(); }
+  int SoundLength() override { Refuse(); }
+
+ private:
+  [[noreturn]] static void Refuse() { std::abort(); }
+};
+
+struct Scene {
+  List MainWindow::*Rows;
+  int Row;
+  int BallsOn, BallSize, BondWidth;
+};
+// A frame is shown at less than half its size, so lines and balls are drawn large.
+constexpr Scene kHelix{&MainWindow::Pro_Lst, 1, 1, 6, 4};
+constexpr Scene kDoubleStrand{&MainWindow::DNA_Lst, 2, 0, 3, 5};
+
+constexpr int kZoomSteps = 5;         // 1.1 to the fifth: from half the frame to 80 per cent
+constexpr double kTurnAFrame = 36.0;  // degrees
+
+std::string Record(const Scene& scene) {
+  NoPlatform platform;
+  const auto owned = std::make_unique<Orvane_Desk>(platform);
+  Orvane_Desk& desk = *owned;
+  desk.main.Show();
+  SelectRow(desk, desk.main.*scene.Rows, scene.Row);
+  desk.drawing.BallsOn = scene.BallsOn;
+  desk.drawing.BallSize = scene.BallSize;
+  desk.drawing.BondWidth = scene.BondWidth;
+  for (int step = 1; step <= kZoomSteps; ++step) {
+    StepBar(desk, desk.main.ZoomBar, step * desk.main.ZoomBar.Range.SmallStep);
+  }
+  std::vector<std::shared_ptr<const Picture>> frames;
+  for (int frame = 0; frame < kFrontFrames; ++frame) {
+    RedrawView(desk);
+    frames.push_back(desk.main.Picture1.Image());
+    desk.view.TurnAngle = kTurnAFrame;
+    RotateAll(desk);
+  }
+  return FramesAsBytes(frames);
+}
+
+}  // namespace
+
+std::string ProteinFramesAsBytes() { return Record(kHelix); }
+std::string DnaFramesAsBytes() { return Record(kDoubleStrand); }
+
+}  // namespace orvane
