@@ -6,6 +6,10 @@ function(orvane_embed target name file)
   if(NOT EXISTS ${file})
     message(FATAL_ERROR "${file} is missing; dependencies.txt names the package that brings it")
   endif()
+  # A compiler cache sees the source alone and not the file that the assembler reads, so the source
+  # bears the file's hash.
+  file(SHA256 ${file} hash)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
   set(folder ${CMAKE_BINARY_DIR}/embedded)
   file(CONFIGURE OUTPUT ${folder}/${name}.h @ONLY CONTENT [[
 #pragma once
@@ -20,6 +24,9 @@ std::span<const unsigned char> @name@();
 ]])
   file(CONFIGURE OUTPUT ${folder}/${name}.cpp @ONLY CONTENT [[
 #include <embedded/@name@.h>
+
+extern "C" const char orvane_embedded_@name@_hash[];
+extern "C" const char orvane_embedded_@name@_hash[] = "@hash@";
 
 asm(R"(
   .section .rodata
