@@ -1,4 +1,4 @@
-// Written by orvane-stock-maker from the tables of tools/stock_maker/tables; change those, not this.
+// Written by orvane-stock-maker from tools/stock_maker/tables; change those, not this.
 #include "stock/stock_texts.h"
 
 namespace orvane::stock {

@@ -7,7 +7,7 @@ namespace orvane::stock_maker {
 namespace {
 
 constexpr const char* kHead =
-    R"(// Written by orvane-stock-maker from the tables of tools/stock_maker/tables; change those, not this.
+    R"(// Written by orvane-stock-maker from tools/stock_maker/tables; change those, not this.
 #include "stock/stock_texts.h"
 
 namespace orvane::stock {
