@@ -91,7 +91,7 @@ void BarWidget::PaintArrow(QPainter& painter, const QRect& face, bool at_end) {
   const Way way = WayOf();
   const double unit = Unit();
   const double middle = at_end ? way.Length - way.Arrow / 2 : way.Arrow / 2;
-  const double reach = 2 * unit, half = 3.5 * unit;
+  const double reach = 1.3 * unit, half = 2.5 * unit;
   const double tip = at_end ? middle + reach : middle - reach;
   const double tail = at_end ? middle - reach : middle + reach;
   const double across = way.Arrow / 2;
@@ -100,7 +100,7 @@ void BarWidget::PaintArrow(QPainter& painter, const QRect& face, bool at_end) {
   };
   const QPointF line[] = {point(tail, -half), point(tip, 0), point(tail, half)};
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(QColor::fromRgba(palette::kInk2), 1.4 * unit, Qt::SolidLine, Qt::RoundCap,
+  painter.setPen(QPen(QColor::fromRgba(palette::kInk2), 1.5 * unit, Qt::SolidLine, Qt::RoundCap,
                       Qt::RoundJoin));
   painter.drawPolyline(line, 3);
   (void)face;

@@ -113,7 +113,7 @@ QRect ControlView::EnterPixels(QPainter& painter) const {
   return {QPoint(0, 0), spot_.Face.size()};
 }
 
-void PaintPlate(QPainter& painter, const QRect& face, QRgb fill, QRgb edge, double corner,
+void PaintPlate(QPainter& painter, const QRectF& face, QRgb fill, QRgb edge, double corner,
                 int width) {
   painter.setPen(Qt::NoPen);
   if (qAlpha(edge) != 0) {
@@ -128,14 +128,14 @@ void PaintPlate(QPainter& painter, const QRect& face, QRgb fill, QRgb edge, doub
   }
 }
 
-void PaintRing(QPainter& painter, const QRect& face, QRgb ink, double corner, double unit,
+void PaintRing(QPainter& painter, const QRectF& face, QRgb ink, double corner, double unit,
                bool white_within) {
   const auto line = [&](double from, double thick, QRgb colour) {
     const double middle = (from + thick / 2) * unit;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(QColor::fromRgba(colour), thick * unit));
     const double round = std::max(0.0, corner * unit - middle);
-    painter.drawRoundedRect(QRectF(face).adjusted(middle, middle, -middle, -middle), round, round);
+    painter.drawRoundedRect(face.adjusted(middle, middle, -middle, -middle), round, round);
   };
   if (white_within) line(2, 1, palette::kFace);
   line(0, 2, ink);
@@ -143,7 +143,7 @@ void PaintRing(QPainter& painter, const QRect& face, QRgb ink, double corner, do
 
 void PaintShadow(QPainter& painter, const QRect& face, double corner, int reach) {
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(8, 20, 30, 14));
+  painter.setBrush(QColor(0, 0, 0, 15));
   for (int step = reach; step > 0; --step) {
     painter.drawRoundedRect(face.adjusted(-step, -step, step, step), corner + step, corner + step);
   }

@@ -59,9 +59,9 @@ class Viewed : public Base, public ControlView {
 };
 
 // Corners, faces, edges and rings, in device pixels.
-void PaintPlate(QPainter& painter, const QRect& face, QRgb fill, QRgb edge, double corner,
+void PaintPlate(QPainter& painter, const QRectF& face, QRgb fill, QRgb edge, double corner,
                 int width);
-void PaintRing(QPainter& painter, const QRect& face, QRgb ink, double corner, double unit,
+void PaintRing(QPainter& painter, const QRectF& face, QRgb ink, double corner, double unit,
                bool white_within);
 void PaintShadow(QPainter& painter, const QRect& face, double corner, int reach);
 

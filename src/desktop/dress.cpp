@@ -16,7 +16,7 @@ constexpr auto kDresses = std::to_array<Dress>({
     {.Control = "Panel3D2", .Shape = Cut::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
     {.Control = "Panel3D3", .Shape = Cut::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
     {.Control = "Panel3D4", .Shape = Cut::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
-    {.Control = "Panel3D5", .Ink = kAccent, .Letters = {13, 700}, .Align = Side::Right},
+    {.Control = "Panel3D5", .Ink = kAccent, .Letters = {13, 700}, .Align = Side::Right, .TextRight = 2},
     {.Control = "Box", .Face = kBezel, .Corner = 4},
     {.Control = "P_Pic1", .Face = kBezel, .Corner = 4},
     {.Control = "P_Sterio", .Face = kDarkPanel, .Edge = kDarkEdge, .Corner = 4},

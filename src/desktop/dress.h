@@ -31,11 +31,12 @@ struct Dress {
   QRgb Ink = palette::kInk;
   Type Letters{};
   Side Align = Side::Centre;
-  int TextLeft = 0, TextTop = -1;  // pixels; TextTop -1: in the middle; else the box of one line
-  int LineHeight = 0;              // of a text of several lines, broken where it is wider
-  bool Floats = false;             // above everything on the desk, with a shadow
-  bool Upwards = false;            // text turned by 90 degrees
-  bool LooksPressed = false;       // Bevel: drawn as bevel 1 whatever its style
+  int TextLeft = 0, TextRight = 0;  // pixels kept free
+  int TextTop = -1;                 // pixels, of the box of one line; -1: in the middle
+  int LineHeight = 0;               // of a text of several lines, broken where it is wider
+  bool Floats = false;              // above everything on the desk, with a shadow
+  bool Upwards = false;             // text turned by 90 degrees
+  bool LooksPressed = false;        // Bevel: drawn as bevel 1 whatever its style
 };
 
 const Dress& DressOf(const Control& control);

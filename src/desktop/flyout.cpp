@@ -10,7 +10,7 @@
 namespace orvane {
 namespace {
 
-constexpr double kPad = 6, kGap = 8, kShadow = 4;  // pixels
+constexpr double kPad = 6, kPadRight = 7, kGap = 8, kShadow = 4;  // pixels
 constexpr Type kKeyType{11, 600}, kRestType{11, 400};
 
 }  // namespace
@@ -26,7 +26,7 @@ void Flyout::ShowRow(const void* owner, const QRect& row, const QString& key, co
   key_ = key;
   rest_ = rest;
   text_ = key + u' ' + rest;
-  const double width = 2 * kPad + WidthOf(kKeyType, key) + kGap + WidthOf(kRestType, rest);
+  const double width = kPad + kPadRight + WidthOf(kKeyType, key) + kGap + WidthOf(kRestType, rest);
   const Scale& scale = window_.scale;
   const int wide = static_cast<int>(std::ceil(width * scale.Unit()));
   const int right = row.left() + row.width();

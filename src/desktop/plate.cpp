@@ -77,9 +77,12 @@ void Plate::PaintBevel(QPainter& painter, const QRect& face) {
     look.Bevel = 1;
     ink = kDeep;
   }
-  const Type letters{11, control.Style.Get().TextStyle == 4 ? 600 : 500};
+  const bool heavy = control.Style.Get().TextStyle == 4 || dress_.LooksPressed;
+  const Type letters{11, heavy ? 600 : 500};
   if (!isEnabled()) {
-    PaintPlate(painter, face, kDisabledFace, kNone, corner, edge);
+    const double in = edge / 2.0;  // of an edge that is not there
+    PaintPlate(painter, QRectF(face).adjusted(in, in, -in, -in), kDisabledFace, kNone, corner,
+               edge);
     PaintCaption(painter, face, kDisabled, letters);
     return;
   }
@@ -118,9 +121,9 @@ void Plate::PaintSwatch(QPainter& painter, const QRect& face) {
   PaintPlate(painter, face, fill.rgb(),
              qRgb(mixed(fill.red()), mixed(fill.green()), mixed(fill.blue())), corner, edge);
   if (HasRing() || underMouse()) {
-    const int out = host.scale.Device(3);
-    PaintRing(painter, face.adjusted(-out, -out, out, out), kAccent, dress_.Corner + 3, Unit(),
-              false);
+    const double out = 2.5 * Unit();
+    PaintRing(painter, QRectF(face).adjusted(-out, -out, out, out), kAccent, dress_.Corner + 2.5,
+              Unit(), true);
   }
   PaintCaption(painter, face, kInk, dress_.Letters);
 }
@@ -148,7 +151,7 @@ void Plate::PaintCaption(QPainter& painter, const QRect& face, QRgb ink, Type le
                      : dress_.Align == Side::Right ? Qt::AlignRight
                                                    : Qt::AlignHCenter;
   if (dress_.Align == Side::Centre) caption = caption.trimmed();
-  QRectF box = QRectF(face).adjusted(dress_.TextLeft * unit, 0, 0, 0);
+  QRectF box = QRectF(face).adjusted(dress_.TextLeft * unit, 0, -dress_.TextRight * unit, 0);
   if (dress_.Upwards) {
     painter.translate(face.left(), face.bottom() + 1);
     painter.rotate(-90);

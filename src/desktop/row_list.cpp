@@ -63,7 +63,7 @@ RowList::Parts RowList::PartsOf(int row) const {
 
 double RowList::RoomForText() const {
   const double width = static_cast<double>(control.At.Get().Width) / TwipsPerPixel;
-  return width - kTextLeft - kRowRight - (HasBar() ? kBarZone : 0) - 1;
+  return width - kTextLeft - (HasBar() ? kRowRight + kBarZone : kTextLeft) + 0.5;
 }
 
 bool RowList::IsCut(int row) const {
@@ -95,7 +95,15 @@ void RowList::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect face = EnterPixels(painter);
   const double unit = Unit();
-  PaintPlate(painter, face, kFace, edge_, 4 * unit, host.scale.Edge());
+  if (joined_ && !HasRing()) {
+    // Its upper end lies under the heading, whose face closes it.
+    painter.setClipRect(face);
+    PaintPlate(painter, face.adjusted(0, -host.scale.Device(8), 0, 0), kFace, edge_, 4 * unit,
+               host.scale.Edge());
+    painter.setClipping(false);
+  } else {
+    PaintPlate(painter, face, kFace, edge_, 4 * unit, host.scale.Edge());
+  }
   const int last = std::min(static_cast<int>(rows_.size()), first_ + WholeRows());
   for (int row = first_; row < last; ++row) PaintRow(painter, row);
   if (HasBar()) {

@@ -40,6 +40,7 @@ class RowList : public Viewed<QWidget> {
   void wheelEvent(QWheelEvent* event) override;
 
   bool has_keys_ = true;  // a row begins with a key of its own
+  bool joined_ = true;    // to a heading above
   QRgb edge_;
 
  private:

@@ -160,6 +160,11 @@ void WindowWidget::showEvent(QShowEvent* event) {
   connect(windowHandle(), &QWindow::screenChanged, this, [this] { LayAll(); });
 }
 
+void WindowWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) LayAll();
+}
+
 void WindowWidget::closeEvent(QCloseEvent* event) {
   event->accept();
   skin.platform.EndProgram();
