@@ -21,8 +21,11 @@ constexpr double kMarkLeft = 4, kMarkWidth = 4, kMarkIn = 4, kTextLeft = 13;  //
 TextWidget::TextWidget(WindowWidget& owner, TextBox& shown, QWidget& parent)
     : Viewed(owner, shown, parent), box_(shown) {
   setFrame(false);
-  QPalette colours = palette();
+  QPalette colours = QWidget::palette();
   colours.setColor(QPalette::Base, Qt::transparent);
+  colours.setColor(QPalette::Text, QColor::fromRgba(palette::kInk));
+  colours.setColor(QPalette::Highlight, QColor::fromRgba(palette::kAccent));
+  colours.setColor(QPalette::HighlightedText, QColor::fromRgba(palette::kFace));
   setPalette(colours);
   setText(QString::fromStdString(box_.Text));
   connect(this, &QLineEdit::textEdited, this,

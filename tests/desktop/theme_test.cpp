@@ -1,0 +1,48 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QPalette>
+
+#include "desktop/type.h"
+#include "window_fixture.h"
+
+namespace orvane {
+namespace {
+
+QPalette Dark() {
+  QPalette colours;
+  for (int role = 0; role < QPalette::NColorRoles; ++role) {
+    colours.setColor(static_cast<QPalette::ColorRole>(role), QColor(20, 20, 20));
+  }
+  for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+    colours.setColor(role, QColor(250, 0, 250));
+  }
+  return colours;
+}
+
+TEST(Theme, ADarkDesktopChangesNoPixelOfTheWindow) {
+  WindowAtWork work;
+  const QPalette own = QApplication::palette();
+  const QImage before = work.Shot();
+
+  QApplication::setPalette(Dark());
+  QApplication::processEvents();
+  const QImage after = work.Shot();
+  QApplication::setPalette(own);
+
+  EXPECT_EQ(before, after);
+}
+
+TEST(Theme, TheDesktopsSettingsAreNotAskedFor) {
+  EXPECT_FALSE(QApplication::desktopSettingsAware());
+}
+
+TEST(Theme, TheTypeIsTheEmbeddedOne) {
+  const QFontInfo found(FontOf({11, 600}));
+
+  EXPECT_EQ(found.family(), "Inter");
+  EXPECT_EQ(found.weight(), 600);
+}
+
+}  // namespace
+}  // namespace orvane

@@ -1,0 +1,84 @@
+// The main window on a screen, its boxes answered by a list instead of a user.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QImage>
+#include <QTest>
+
+#include "desk/actions.h"
+#include "desktop/control_view.h"
+#include "desktop/skin.h"
+#include "desktop/window_widget.h"
+
+namespace orvane {
+
+class QuietPlatform : public QtPlatform {
+ public:
+  std::vector<std::string> Effects;
+
+  void Beep() override { Effects.emplace_back("beep"); }
+  void MessageBox(std::string_view text) override { Keep("message ", text); }
+  void WarningBox(std::string_view text) override { Keep("warning ", text); }
+  void FailureBox(std::string_view text) override { Keep("failure ", text); }
+  std::string InputBox(std::string_view prompt, std::string_view) override {
+    Keep("ask ", prompt);
+    return "";
+  }
+  void EndProgram() override { Effects.emplace_back("end"); }
+
+ private:
+  void Keep(const char* kind, std::string_view text) {
+    Effects.push_back(kind + std::string(text));
+  }
+};
+
+struct WindowAtWork {
+  QuietPlatform platform;
+  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(platform);
+  Orvane_Desk& desk = *owned;
+  MainWindow& main = desk.main;
+  Skin skin{desk, platform};
+  WindowWidget& window;
+
+  WindowAtWork() : window(skin.WindowOf(main)) {
+    QCursor::setPos(0, 0);
+    desk.front.Hide();
+    main.Show();
+    window.activateWindow();
+    (void)QTest::qWaitForWindowActive(&window);
+  }
+
+  QWidget& WidgetOf(const Control& control) { return *skin.WidgetOf(control); }
+  ControlView& ViewOf(const Control& control) { return *window.ViewOf(control); }
+  // The middle of a control, in its widget's pixels.
+  QPoint Middle(const Control& control) {
+    return ViewOf(control).FaceInWidget().center().toPoint();
+  }
+  void ClickOn(const Control& control) {
+    QTest::mouseClick(&WidgetOf(control), Qt::LeftButton, {}, Middle(control));
+  }
+  // The pointer as the screen moves it: the toolkit finds out what it comes onto and leaves.
+  void PointAt(QWidget& widget, QPoint at) {
+    QCursor::setPos(widget.mapToGlobal(at));  // for who asks the screen where it is
+    QTest::mouseMove(window.windowHandle(), widget.mapTo(&window, at));
+  }
+  QImage Shot() { return window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+};
+
+// How often an event of that kind came to a control, and the last one.
+struct Heard {
+  int Count = 0;
+  Event Last;
+
+  Heard(Control& control, EventKind kind) {
+    control.Bind(kind, [this](const Event& event) {
+      ++Count;
+      Last = event;
+    });
+  }
+};
+
+}  // namespace orvane
