@@ -69,6 +69,7 @@ void OpenSelection(Orvane_Desk& desk, const ListKind& kind) {
   desk.drawing.NucleicMode = kind.NucleicMode;
   desk.main.DWn.Enabled = true;
   SetEntries(desk.main, kind.Entries);
+  desk.plot.Hide();
   PrepareSelection(desk);
 }
 

@@ -1,0 +1,184 @@
+// The survey of the backbone torsions: rows, quarters and places on the map.
+
+#include "ramachandran/survey.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "core/records.h"
+#include "desk_fixture.h"
+
+namespace orvane {
+namespace {
+
+enum ProteinRow { kPep, kAlfa, kAlfb, kBeta, kBetb, kPbs, kApbs };
+
+struct SurveyTest : DeskAtWork, testing::Test {
+  void Survey(ProteinRow row) {
+    SelectRow(desk, desk.main.Pro_Lst, row);
+    Click(desk, desk.main.RCDP);
+  }
+  std::size_t CirclesOn(std::size_t area) { return desk.plot.Area[area].Image()->Strokes.size(); }
+  std::vector<std::size_t> Circles() {
+    return {CirclesOn(0), CirclesOn(1), CirclesOn(2), CirclesOn(3)};
+  }
+};
+
+TEST_F(SurveyTest, OfTheHelixHasElevenRowsAndTenCirclesBottomLeft) {
+  Survey(kAlfa);
+  EXPECT_EQ(desk.survey.PhiCount, 11);
+  EXPECT_EQ(desk.survey.PsiCount, 11);
+  EXPECT_EQ(Circles(), (std::vector<std::size_t>{0, 10, 0, 0}));
+}
+
+TEST_F(SurveyTest, OfTheStrandHasFiveRowsAndFourCirclesTopLeft) {
+  Survey(kBeta);
+  EXPECT_EQ(desk.survey.PhiCount, 5);
+  EXPECT_EQ(Circles(), (std::vector<std::size_t>{4, 0, 0, 0}));
+}
+
+TEST_F(SurveyTest, OfTheSheetsPlotsEveryRowButTheLast) {
+  // An alpha carbon a residue, but the first residue's: 20 and 21 residues.
+  Survey(kPbs);
+  EXPECT_EQ(desk.survey.PhiCount, 19);
+  const auto parallel = Circles();
+  EXPECT_EQ(parallel[0] + parallel[1] + parallel[2] + parallel[3], 18U);
+  Survey(kApbs);
+  EXPECT_EQ(desk.survey.PhiCount, 20);
+  const auto antiparallel = Circles();
+  EXPECT_EQ(antiparallel[0] + antiparallel[1] + antiparallel[2] + antiparallel[3], 19U);
+}
+
+// The torsions as the program shows them: -57 comes out as -123, since the arctangent knows no
+// quadrant, and -47 as -133; -119 and +113 stand as they are.
+TEST_F(SurveyTest, ShowsTheHelixNearItsTorsions) {
+  // The plot pass overwrites the rows with places, so the ranges are looked at. The last psi is
+  // left to the store's history, so phi alone is exact.
+  Survey(kAlfa);
+  EXPECT_NEAR(desk.survey.PhiMax, -123, 0.2);
+  EXPECT_NEAR(desk.survey.PhiMid, -123, 0.2);
+}
+
+TEST_F(SurveyTest, ShowsTheStrandNearItsTorsions) {
+  Survey(kBeta);
+  EXPECT_NEAR(desk.survey.PhiMax, -119, 0.2);
+  EXPECT_NEAR(desk.survey.PhiMid, -119, 0.2);
+}
+
+TEST_F(SurveyTest, CirclesAreSmallAndYellow) {
+  Survey(kBeta);
+  const auto picture = desk.plot.Area[0].Image();
+  for (const Stroke& stroke : picture->Strokes) {
+    EXPECT_EQ(stroke.Kind, StrokeKind::Circle);
+    EXPECT_EQ(stroke.X2, 1.0F);
+    EXPECT_EQ(stroke.Ink, kPalette14);
+    EXPECT_EQ(stroke.Fill, kPalette14);
+  }
+}
+
+TEST_F(SurveyTest, TwiceInARowDrawsTheSamePicture) {
+  Survey(kApbs);
+  const auto once = desk.plot.Area[0].Image()->Strokes;
+  Click(desk, desk.main.RCDP);
+  EXPECT_EQ(desk.plot.Area[0].Image()->Strokes, once);
+}
+
+TEST_F(SurveyTest, DoesNotChangeWithTheView) {
+  Survey(kPbs);
+  const auto before = desk.plot.Area[0].Image()->Strokes;
+  StepBar(desk, desk.main.VScroll1, 11);
+  StepBar(desk, desk.main.ZoomBar, 5);
+  Click(desk, desk.main.RCDP);
+  EXPECT_EQ(desk.plot.Area[0].Image()->Strokes, before);
+}
+
+TEST_F(SurveyTest, ReadsWhatALongerStructureLeftBeyondTheLastResidue) {
+  // The helix ends at atom 60 with its last alpha carbon at 57, whose next nitrogen would be
+  // atom 61.
+  Survey(kAlfa);
+  const double fresh = desk.survey.PsiSpan;
+  SelectRow(desk, desk.main.Pro_Lst, kApbs);
+  Survey(kAlfa);
+  EXPECT_NE(desk.survey.PsiSpan, fresh);
+}
+
+TEST_F(SurveyTest, CaptionsNameTheStructureAndStayForOthers) {
+  Survey(kAlfa);
+  EXPECT_EQ(desk.plot.RamPlt_H.Caption, "Ramachandran Plot: Right Handed A-Helix");
+  Survey(kBeta);
+  EXPECT_EQ(desk.plot.RamPlt_H.Caption, "Ramachandran Plot: B-Strand");
+  Survey(kPbs);
+  EXPECT_EQ(desk.plot.RamPlt_H.Caption, "Ramachandran Plot: Parallel B-pleated Sheet");
+  Survey(kApbs);
+  EXPECT_EQ(desk.plot.RamPlt_H.Caption, "Ramachandran Plot: Antiparallel B-pleated Sheet");
+
+  SelectRow(desk, desk.main.Pro_Lst, kAlfb);
+  Click(desk, desk.main.RCDP, Reach::Forced);
+  EXPECT_EQ(desk.plot.RamPlt_H.Caption, "Ramachandran Plot: Antiparallel B-pleated Sheet");
+}
+
+TEST_F(SurveyTest, KeepsItsStepOfNineForThePolyalanineHelix) {
+  // Alpha carbons at 2, 12, ... 52: with a step of nine all the neighbours of a regular helix are
+  // met.
+  SelectRow(desk, desk.main.Pro_Lst, kAlfb);
+  Click(desk, desk.main.RCDP, Reach::Forced);
+  EXPECT_EQ(desk.survey.PhiCount, 5);
+  EXPECT_NEAR(desk.survey.PhiMax, -123, 0.2);
+}
+
+TEST_F(SurveyTest, OpensTheWindowClosesThePanelsAndTurnsPrintingToIt) {
+  SelectRow(desk, desk.main.Pro_Lst, kAlfa);
+  desk.main.P_Clr_Holder.Visible = true;
+  Click(desk, desk.main.RCDP);
+  EXPECT_TRUE(desk.plot.Visible);
+  EXPECT_FALSE(desk.main.P_Clr_Holder.Visible);
+  EXPECT_EQ(desk.stereo.SplitViewOn, 2);
+}
+
+TEST_F(SurveyTest, StaysOpenToTheAtomsInStoreAfterGetMolecule) {
+  Survey(kAlfa);
+  Click(desk, desk.main.Bt_Blt_AA);
+  ASSERT_EQ(desk.molecule.MoleculeReady, 0);
+  Click(desk, desk.main.RCDP);
+  EXPECT_EQ(desk.survey.PhiCount, 11);
+  EXPECT_TRUE(platform.Effects.empty());
+}
+
+TEST_F(SurveyTest, ASelectionClosesTheWindow) {
+  for (const auto& select : std::initializer_list<void (*)(Orvane_Desk&)>{
+           [](Orvane_Desk& d) { SelectRow(d, d.main.AA_Lst, 1); },
+           [](Orvane_Desk& d) { SelectRow(d, d.main.Pro_Lst, kAlfb); },
+           [](Orvane_Desk& d) { SelectRow(d, d.main.Nuc_Lst, 0); },
+           [](Orvane_Desk& d) { SelectRow(d, d.main.DNA_Lst, 0); }}) {
+    Survey(kAlfa);
+    ASSERT_TRUE(desk.plot.Visible);
+    select(desk);
+    EXPECT_FALSE(desk.plot.Visible);
+  }
+  EXPECT_FALSE(desk.main.RCDP.Enabled);
+}
+
+TEST_F(SurveyTest, OfAStructureWithoutAlphaCarbonsEndsInAFailure) {
+  Load(desk, Record("C1", 0, 0, 0) + Record("C2", 1, 1, 0.5));
+  Click(desk, desk.main.RCDP, Reach::Forced);
+  ASSERT_EQ(platform.Effects.size(), 1U);
+  EXPECT_TRUE(platform.Effects[0].starts_with("failure "));
+}
+
+TEST_F(SurveyTest, SpreadsTheWiderRangeOverHalfAPicture) {
+  // With the scale 1 / widest span a row lies at most a quarter of the picture from its middle.
+  Survey(kApbs);
+  const double w = desk.plot.Area[0].InnerWidth();
+  const double h = desk.plot.Area[0].InnerHeight();
+  for (std::size_t area = 0; area < 4; ++area) {
+    const auto picture = desk.plot.Area[area].Image();
+    for (const Stroke& stroke : picture->Strokes) {
+      EXPECT_LE(std::fabs(stroke.X1 - w / 2), w / 4 + 1e-3);
+      EXPECT_LE(std::fabs(stroke.Y1 - h / 2), h / 4 + 1e-3);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace orvane
