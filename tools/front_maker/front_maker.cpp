@@ -5,37 +5,13 @@
 
 #include "desk/actions.h"
 #include "draw/redraw_chain.h"
+#include "no_platform/no_platform.h"
 #include "shell/front_frames.h"
 #include "shell/information_windows.h"
 #include "view/transform.h"
 
 namespace orvane {
 namespace {
-
-// The maker shows no boxes, so that whatever the desk asks of a platform is a mistake of the maker.
-class NoPlatform : public Platform {
- public:
-  void Beep() override { Refuse(); }
-  void MessageBox(std::string_view) override { Refuse(); }
-  void WarningBox(std::string_view) override { Refuse(); }
-  void FailureBox(std::string_view) override { Refuse(); }
-  std::string InputBox(std::string_view, std::string_view) override { Refuse(); }
-  void LetEventsRun() override { Refuse(); }
-  void Wait(int) override { Refuse(); }
-  void EndProgram() override { Refuse(); }
-  void SavePicture(const SaveRequest&) override { Refuse(); }
-  bool PrintWindow(Window&) override { Refuse(); }
-  std::string ProgramFolder() override { Refuse(); }
-  int SoundOpen(const std::string&) override { Refuse(); }
-  void SoundPlay() override { Refuse(); }
-  void SoundStop() override { Refuse(); }
-  void SoundClose() override { Refuse(); }
-  bool SoundIsOpen() override { Refuse(); }
-  int SoundLength() override { Refuse(); }
-
- private:
-  [[noreturn]] static void Refuse() { std::abort(); }
-};
 
 struct Scene {
   List MainWindow::*Rows;
