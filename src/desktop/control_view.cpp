@@ -11,8 +11,7 @@
 namespace orvane {
 namespace {
 
-Place Absolute(const Control& control) {
-  Place place = control.At;
+Place Absolute(const Control& control, Place place) {
   for (const Control* above = control.Parent; above != nullptr; above = above->Parent) {
     place.Left += above->At.Get().Left;
     place.Top += above->At.Get().Top;
@@ -68,7 +67,7 @@ void ControlView::Take(Aspect aspect) {
 
 void ControlView::Lay() {
   const QWidget* above = widget.parentWidget();
-  spot_ = SpotOf(host.scale, host.OnDesk(Absolute(control)), Outset());
+  spot_ = SpotOf(host.scale, host.OnDesk(Absolute(control, StandsAt())), Outset());
   widget.setGeometry(spot_.Hull.translated(-above->mapTo(&host.Desk(), QPoint(0, 0))));
 }
 

@@ -36,6 +36,7 @@ class ControlView {
   QRectF FaceInWidget() const;                       // the control in widget's pixels
 
  protected:
+  virtual Place StandsAt() const { return control.At; }
   virtual double Outset() const { return 0; }  // pixels painted round the face
   void Hear(QEvent& event);                    // pointer and keyboard coming
   QRect EnterPixels(QPainter& painter) const;  // device pixels; gives the face, from 0, 0

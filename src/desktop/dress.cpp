@@ -24,7 +24,7 @@ constexpr auto kDresses = std::to_array<Dress>({
     {.Control = "Str_Entm", .Ink = kOnDark, .Letters = {11, 600}},
     {.Control = "L_Form", .Ink = kQuietOnDark},
     {.Control = "R_Form", .Ink = kQuietOnDark},
-    {.Control = "AA_name", .Ink = kOnDark, .Letters = {11, 600}, .Align = Side::Left},
+    {.Control = "AA_name", .Ink = kOnDark, .Letters = {11, 600}, .Align = Side::Left, .GrowsTo = 5310},
     {.Control = "Label1", .Ink = kInk2, .Letters = {11, 400}, .Align = Side::Left},
     {.Control = "Label2", .Ink = kInk2, .Letters = {11, 400}, .Upwards = true},
     {.Control = "Label3", .Ink = kInk2, .Letters = {11, 400}, .Align = Side::Left},

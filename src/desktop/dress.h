@@ -34,6 +34,7 @@ struct Dress {
   int TextLeft = 0, TextRight = 0;  // pixels kept free
   int TextTop = -1;                 // pixels, of the box of one line; -1: in the middle
   int LineHeight = 0;               // of a text of several lines, broken where it is wider
+  int GrowsTo = 0;                  // twips; the width follows the caption, up to this
   bool Floats = false;              // above everything on the desk, with a shadow
   bool Upwards = false;             // text turned by 90 degrees
   bool LooksPressed = false;        // Bevel: drawn as bevel 1 whatever its style

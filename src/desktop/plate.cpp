@@ -1,5 +1,8 @@
 #include "desktop/plate.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <QKeyEvent>
 
 #include "desk/actions.h"
@@ -39,8 +42,19 @@ Plate::Plate(WindowWidget& owner, Control& shown, QWidget& parent)
   }
 }
 
+Place Plate::StandsAt() const {
+  Place place = control.At;
+  if (dress_.GrowsTo > 0) {
+    const double text = WidthOf(dress_.Letters, CaptionOf(control)) + dress_.TextLeft;
+    const int wide = static_cast<int>(std::ceil(text)) * TwipsPerPixel;
+    place.Width = std::clamp(wide, place.Width, std::max(place.Width, dress_.GrowsTo));
+  }
+  return place;
+}
+
 void Plate::Take(Aspect aspect) {
   ControlView::Take(aspect);
+  if (aspect == Aspect::Caption && dress_.GrowsTo > 0) Lay();
   if (aspect == Aspect::Visible && dress_.Floats) host.FloatingPanelTurned(control);
 }
 

@@ -17,6 +17,7 @@ class Plate : public Viewed<QWidget> {
   void Take(Aspect aspect) override;
 
  protected:
+  Place StandsAt() const override;
   double Outset() const override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

@@ -16,6 +16,7 @@ using namespace palette;
 // Pixels at 100 per cent.
 constexpr int kRowHeight = 15, kFirstRowTop = 1;
 constexpr double kTextLeft = 6, kGap = 4;
+constexpr double kRounding = 0.1;              // of sixty-fourths, in a text that fits exactly
 constexpr double kRowLeft = 2, kRowRight = 2;  // of a chosen row, from the list's edges
 constexpr double kBarZone = 7, kThumbWidth = 4, kThumbIn = 3, kThumbLeast = 12;
 constexpr Type kKeyType{11, 600}, kRestType{11, 400};
@@ -63,7 +64,7 @@ RowList::Parts RowList::PartsOf(int row) const {
 
 double RowList::RoomForText() const {
   const double width = static_cast<double>(control.At.Get().Width) / TwipsPerPixel;
-  return width - kTextLeft - (HasBar() ? kRowRight + kBarZone : kTextLeft) + 0.5;
+  return width - kTextLeft - (HasBar() ? kRowRight + kBarZone : kTextLeft) + kRounding;
 }
 
 bool RowList::IsCut(int row) const {
