@@ -1,0 +1,230 @@
+#include "output/gif_file.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <gif_lib.h>
+#include <memory>
+
+#include "output/gif_palette.h"
+
+namespace orvane {
+namespace {
+
+// Palette indices, row by row from the top left.
+struct Indices {
+  int Width = 0, Height = 0;
+  std::vector<GifByteType> At;
+
+  GifByteType* Row(int y) { return At.data() + static_cast<std::ptrdiff_t>(y) * Width; }
+  const GifByteType* Row(int y) const { return At.data() + static_cast<std::ptrdiff_t>(y) * Width; }
+};
+
+struct Box {
+  int Left = 0, Top = 0, Width = 0, Height = 0;
+};
+
+Indices Blank(int width, int height, GifByteType index) {
+  return {width, height,
+          std::vector<GifByteType>(
+              static_cast<std::size_t>(width) * static_cast<std::size_t>(height), index)};
+}
+
+Indices IndicesOf(const Bitmap& picture) {
+  GifColours colours;
+  Indices indices = Blank(picture.Width, picture.Height, 0);
+  std::transform(picture.Words.begin(), picture.Words.end(), indices.At.begin(),
+                 [&](std::uint32_t word) { return colours.IndexOf(word | 0xFF000000u); });
+  return indices;
+}
+
+// Larger, and what is new filled with that index.
+Indices Grown(const Indices& indices, int width, int height, GifByteType index) {
+  Indices grown = Blank(width, height, index);
+  for (int y = 0; y < indices.Height; ++y) {
+    std::copy_n(indices.Row(y), indices.Width, grown.Row(y));
+  }
+  return grown;
+}
+
+int AppendTo(GifFileType* file, const GifByteType* bytes, int count) {
+  auto& all = *static_cast<FileBytes*>(file->UserData);
+  all.insert(all.end(), bytes, bytes + count);
+  return count;
+}
+
+struct Source {
+  const FileBytes& Bytes;
+  std::size_t Next = 0;
+};
+
+int ReadFrom(GifFileType* file, GifByteType* bytes, int count) {
+  auto& source = *static_cast<Source*>(file->UserData);
+  const std::size_t left = source.Bytes.size() - source.Next;
+  const std::size_t given = std::min(left, static_cast<std::size_t>(count));
+  std::memcpy(bytes, source.Bytes.data() + source.Next, given);
+  source.Next += given;
+  return static_cast<int>(given);
+}
+
+struct CloseReading {
+  void operator()(GifFileType* file) const { DGifCloseFile(file, nullptr); }
+};
+using ReadGif = std::unique_ptr<GifFileType, CloseReading>;
+
+// nullptr: no GIF, or one that is cut short.
+ReadGif Read(Source& source) {
+  ReadGif gif(DGifOpen(&source, ReadFrom, nullptr));
+  if (gif != nullptr && DGifSlurp(gif.get()) != GIF_OK) gif.reset();
+  return gif;
+}
+
+// The frames and blocks of `gif` on a screen of that size. The library cannot fail here: what it
+// writes to is memory.
+FileBytes Written(const GifFileType& gif, int width, int height) {
+  FileBytes bytes;
+  std::array<GifColorType, 256> colours{};
+  for (std::size_t i = 0; i < colours.size(); ++i) {
+    const std::uint32_t word = GifPalette()[i];
+    colours[i] = {static_cast<GifByteType>(word >> 16), static_cast<GifByteType>(word >> 8),
+                  static_cast<GifByteType>(word)};
+  }
+  GifFileType* file = EGifOpen(&bytes, AppendTo, nullptr);
+  file->SWidth = width;
+  file->SHeight = height;
+  file->SColorResolution = 8;
+  file->SColorMap = GifMakeMapObject(static_cast<int>(colours.size()), colours.data());
+  file->SavedImages = gif.SavedImages;  // lent: writing neither changes nor frees them
+  file->ImageCount = gif.ImageCount;
+  EGifSpew(file);
+  return bytes;
+}
+
+void AddLooping(SavedImage& first) {
+  GifByteType name[] = "NETSCAPE2.0";
+  GifByteType for_ever[] = {1, 0, 0};
+  GifAddExtensionBlock(&first.ExtensionBlockCount, &first.ExtensionBlocks,
+                       APPLICATION_EXT_FUNC_CODE, sizeof name - 1, name);
+  GifAddExtensionBlock(&first.ExtensionBlockCount, &first.ExtensionBlocks, CONTINUE_EXT_FUNC_CODE,
+                       sizeof for_ever, for_ever);
+}
+
+void AddDelay(SavedImage& frame, int transparent) {
+  const GraphicsControlBlock control{.DisposalMode = DISPOSE_DO_NOT,
+                                     .UserInputFlag = false,
+                                     .DelayTime = kGifDelay,
+                                     .TransparentColor = transparent};
+  GifByteType packed[4];
+  EGifGCBToExtension(&control, packed);
+  GifAddExtensionBlock(&frame.ExtensionBlockCount, &frame.ExtensionBlocks, GRAPHICS_EXT_FUNC_CODE,
+                       sizeof packed, packed);
+}
+
+SavedImage& AddImage(GifFileType& gif, const Indices& pixels, const Box& box) {
+  SavedImage& image = *GifMakeSavedImage(&gif, nullptr);
+  image.ImageDesc = {box.Left, box.Top, box.Width, box.Height, false, nullptr};
+  const std::size_t count =
+      static_cast<std::size_t>(box.Width) * static_cast<std::size_t>(box.Height);
+  image.RasterBits = static_cast<GifByteType*>(std::malloc(count));  // the library frees it
+  for (int y = 0; y < box.Height; ++y) {
+    std::copy_n(pixels.Row(box.Top + y) + box.Left, box.Width,
+                image.RasterBits + static_cast<std::ptrdiff_t>(y) * box.Width);
+  }
+  return image;
+}
+
+FileBytes FirstOf(const Bitmap& picture, bool animated) {
+  GifFileType gif{};
+  SavedImage& image = AddImage(gif, IndicesOf(picture), {0, 0, picture.Width, picture.Height});
+  if (animated) {
+    AddLooping(image);
+    AddDelay(image, NO_TRANSPARENT_COLOR);
+  }
+  FileBytes bytes = Written(gif, picture.Width, picture.Height);
+  GifFreeSavedImages(&gif);
+  return bytes;
+}
+
+bool HasOurPalette(const GifFileType& gif) {
+  const ColorMapObject* map = gif.SColorMap;
+  if (map == nullptr || map->ColorCount != 256) return false;
+  for (std::size_t i = 0; i < 256; ++i) {
+    const GifColorType& colour = map->Colors[i];
+    if ((GifPalette()[i] & 0xFFFFFFu) !=
+        static_cast<std::uint32_t>(colour.Red << 16 | colour.Green << 8 | colour.Blue)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+// Each frame as we write them: in the file's palette, inside its screen.
+bool FramesAreOurs(const GifFileType& gif) {
+  return std::all_of(gif.SavedImages, gif.SavedImages + gif.ImageCount, [&](const SavedImage& i) {
+    const GifImageDesc& at = i.ImageDesc;
+    return at.ColorMap == nullptr && at.Left + at.Width <= gif.SWidth &&
+           at.Top + at.Height <= gif.SHeight;
+  });
+}
+
+// What is on the screen when all frames have been drawn.
+Indices LastScreen(const GifFileType& gif) {
+  Indices screen = Blank(gif.SWidth, gif.SHeight, kGifUnchanged);
+  for (int n = 0; n < gif.ImageCount; ++n) {
+    const SavedImage& image = gif.SavedImages[n];
+    const GifImageDesc& at = image.ImageDesc;
+    for (int y = 0; y < at.Height; ++y) {
+      const GifByteType* from = image.RasterBits + static_cast<std::ptrdiff_t>(y) * at.Width;
+      GifByteType* to = screen.Row(at.Top + y) + at.Left;
+      std::transform(from, from + at.Width, to, to, [](GifByteType drawn, GifByteType under) {
+        return drawn == kGifUnchanged ? under : drawn;
+      });
+    }
+  }
+  return screen;
+}
+
+// The smallest box round what is not to stay; one pixel when everything is.
+Box ChangedBox(const Indices& frame) {
+  int left = frame.Width, right = -1, top = frame.Height, bottom = -1;
+  for (int y = 0; y < frame.Height; ++y) {
+    const GifByteType* row = frame.Row(y);
+    const GifByteType* end = row + frame.Width;
+    const auto changed = [](GifByteType index) { return index != kGifUnchanged; };
+    const GifByteType* first = std::find_if(row, end, changed);
+    if (first == end) continue;
+    left = std::min(left, static_cast<int>(first - row));
+    while (!changed(end[-1])) --end;
+    right = std::max(right, static_cast<int>(end - row) - 1);
+    top = std::min(top, y);
+    bottom = y;
+  }
+  if (right < 0) return {0, 0, 1, 1};
+  return {left, top, right - left + 1, bottom - top + 1};
+}
+
+}  // namespace
+
+FileBytes GifOf(const Bitmap& picture) { return FirstOf(picture, false); }
+
+FileBytes AnimationOf(const Bitmap& first) { return FirstOf(first, true); }
+
+std::optional<FileBytes> WithOneMoreFrame(const FileBytes& animation, const Bitmap& next) {
+  Source source{animation};
+  const ReadGif gif = Read(source);
+  if (gif == nullptr || gif->ImageCount == 0) return std::nullopt;
+  if (!HasOurPalette(*gif) || !FramesAreOurs(*gif)) return std::nullopt;
+
+  // The picture on the screen may have changed its size meanwhile. The file's screen grows with it;
+  // round a smaller picture it is black.
+  const int width = std::max(gif->SWidth, next.Width), height = std::max(gif->SHeight, next.Height);
+  const Indices before = Grown(LastScreen(*gif), width, height, kGifUnchanged);
+  Indices frame = Grown(IndicesOf(next), width, height, 0);
+  std::transform(
+      frame.At.begin(), frame.At.end(), before.At.begin(), frame.At.begin(),
+      [](GifByteType now, GifByteType then) { return now == then ? kGifUnchanged : now; });
+  AddDelay(AddImage(*gif, frame, ChangedBox(frame)), kGifUnchanged);
+  return Written(*gif, width, height);
+}
+
+}  // namespace orvane

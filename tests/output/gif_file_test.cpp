@@ -1,0 +1,222 @@
+// GIF files, read back by the library's own reader.
+#include "output/gif_file.h"
+
+#include <gtest/gtest.h>
+#include <set>
+
+#include "desk_fixture.h"
+#include "draw/canvas.h"
+#include "draw/elements.h"
+#include "draw/raster.h"
+#include "output/gif_palette.h"
+#include "output/gif_reader.h"
+#include "shell/swatches.h"
+
+namespace orvane {
+namespace {
+
+Bitmap Plain(int width, int height, Colour colour) {
+  return {width, height, std::vector<std::uint32_t>(width * height, WordOf(colour))};
+}
+
+// One picture of every colour of the palette but the last, which is none: 17 by 15 pixels.
+Bitmap EveryColour() {
+  Bitmap picture = Plain(17, 15, kPalette0);
+  std::copy_n(GifPalette().begin(), 255, picture.Words.begin());
+  return picture;
+}
+
+TEST(GifPalette, HoldsEveryColourOfPensAndSwatchesExactly) {
+  std::set<Colour> colours{kPalette0, kPalette3, kPalette7, kPalette14, kPalette15};
+  for (const ElementRow& row : kElements) colours.insert(row.Ink);
+  for (const Swatch& swatch : kSwatches) colours.insert(swatch.Face);
+  GifColours map;
+  for (const Colour colour : colours) {
+    EXPECT_EQ(GifPalette()[map.IndexOf(WordOf(colour))], WordOf(colour)) << std::hex << colour;
+  }
+}
+
+TEST(GifPalette, GoesThroughTheSpectrumInStepsOfAFifth) {
+  GifColours map;
+  for (int red = 0; red < 256; red += 51) {
+    for (int green = 0; green < 256; green += 51) {
+      for (int blue = 0; blue < 256; blue += 51) {
+        const std::uint32_t word = WordOf(Rgb(red, green, blue));
+        EXPECT_EQ(GifPalette()[map.IndexOf(word)], word);
+      }
+    }
+  }
+}
+
+TEST(GifPalette, GivesWhatItDoesNotHoldTheNearestColour) {
+  GifColours map;
+  // Next to black, to the side chain's pink (255, 20, 147) and to white; nothing else is as near.
+  EXPECT_EQ(GifPalette()[map.IndexOf(WordOf(Rgb(3, 3, 3)))], WordOf(kPalette0));
+  EXPECT_EQ(GifPalette()[map.IndexOf(WordOf(Rgb(254, 22, 146)))], WordOf(Rgb(255, 20, 147)));
+  EXPECT_EQ(GifPalette()[map.IndexOf(WordOf(Rgb(252, 251, 253)))], WordOf(kPalette15));
+}
+
+TEST(GifPalette, NeverGivesTheIndexThatIsNoColour) {
+  GifColours map;
+  for (int red = 0; red < 256; red += 15) {
+    for (int green = 0; green < 256; green += 15) {
+      for (int blue = 0; blue < 256; blue += 15) {
+        EXPECT_NE(map.IndexOf(WordOf(Rgb(red, green, blue))), kGifUnchanged);
+      }
+    }
+  }
+}
+
+TEST(GifPalette, RemembersEachColourAsItsOwn) {
+  GifColours map;
+  std::vector<std::uint8_t> first;
+  // Far more colours than it can remember, twice: many have been forgotten by the second time.
+  const auto word = [](std::uint32_t i) { return 0xFF000000u | (i * 7919u & 0xFFFFFFu); };
+  for (std::uint32_t i = 0; i < 20000; ++i) first.push_back(map.IndexOf(word(i)));
+  for (std::uint32_t i = 20000; i-- > 0;) {
+    EXPECT_EQ(map.IndexOf(word(i)), first[i]) << std::hex << word(i);
+  }
+  EXPECT_GT(std::set<std::uint8_t>(first.begin(), first.end()).size(), 100u);
+}
+
+TEST(GifFile, HoldsEachPixelOfThePaletteExactly) {
+  const Bitmap picture = EveryColour();
+  const ReadGif gif = ReadBack(GifOf(picture));
+
+  ASSERT_TRUE(gif.Whole);
+  EXPECT_EQ(gif.Width, 17);
+  EXPECT_EQ(gif.Height, 15);
+  ASSERT_EQ(gif.Palette.size(), 256u);
+  ASSERT_EQ(gif.Frames.size(), 1u);
+  EXPECT_EQ(gif.Frames[0].Screen.Words, picture.Words);
+  EXPECT_FALSE(gif.Loops);
+}
+
+TEST(GifFile, TwoPicturesShareOnePalette) {
+  EXPECT_EQ(ReadBack(GifOf(Plain(2, 2, Rgb(240, 0, 0)))).Palette,
+            ReadBack(GifOf(EveryColour())).Palette);
+}
+
+TEST(GifAnimation, LoopsForEverFromItsFirstFrame) {
+  const ReadGif gif = ReadBack(AnimationOf(EveryColour()));
+  ASSERT_EQ(gif.Frames.size(), 1u);
+  EXPECT_TRUE(gif.Loops);
+  EXPECT_EQ(gif.Rounds, 0);
+  EXPECT_EQ(gif.Frames[0].Delay, 10);  // a tenth of a second
+}
+
+TEST(GifAnimation, EachFrameIsThePictureThatWasGiven) {
+  Bitmap second = EveryColour(), third = EveryColour();
+  second.Words[3 * 17 + 5] = WordOf(Rgb(255, 20, 147));
+  second.Words[7 * 17 + 2] = WordOf(Rgb(255, 20, 147));
+  std::reverse(third.Words.begin(), third.Words.end());
+
+  FileBytes bytes = AnimationOf(EveryColour());
+  bytes = WithOneMoreFrame(bytes, second).value();
+  bytes = WithOneMoreFrame(bytes, third).value();
+  const ReadGif gif = ReadBack(bytes);
+
+  ASSERT_EQ(gif.Frames.size(), 3u);
+  EXPECT_EQ(gif.Frames[0].Screen.Words, EveryColour().Words);
+  EXPECT_EQ(gif.Frames[1].Screen.Words, second.Words);
+  EXPECT_EQ(gif.Frames[2].Screen.Words, third.Words);
+  for (const ReadFrame& frame : gif.Frames) EXPECT_EQ(frame.Delay, 10);
+  EXPECT_TRUE(gif.Loops);
+  EXPECT_EQ(gif.Rounds, 0);
+}
+
+TEST(GifAnimation, AFrameHoldsOnlyTheBoxThatChanged) {
+  Bitmap second = Plain(20, 10, kPalette0);
+  second.Words[3 * 20 + 5] = second.Words[7 * 20 + 2] = WordOf(kPalette15);
+
+  const ReadGif gif =
+      ReadBack(WithOneMoreFrame(AnimationOf(Plain(20, 10, kPalette0)), second).value());
+
+  // Columns 2 to 5, rows 3 to 7.
+  const ReadFrame& frame = gif.Frames.at(1);
+  EXPECT_EQ(frame.Left, 2);
+  EXPECT_EQ(frame.Top, 3);
+  EXPECT_EQ(frame.Width, 4);
+  EXPECT_EQ(frame.Height, 5);
+}
+
+TEST(GifAnimation, AFrameLikeTheOneBeforeIsAFrameAllTheSame) {
+  const ReadGif gif = ReadBack(WithOneMoreFrame(AnimationOf(EveryColour()), EveryColour()).value());
+  ASSERT_EQ(gif.Frames.size(), 2u);
+  EXPECT_EQ(gif.Frames[1].Screen.Words, EveryColour().Words);
+  EXPECT_EQ(gif.Frames[1].Delay, 10);
+}
+
+TEST(GifAnimation, GrowsWithALargerPictureAndIsBlackRoundASmallerOne) {
+  const FileBytes small = AnimationOf(Plain(2, 2, kPalette15));
+  const FileBytes large = WithOneMoreFrame(small, Plain(3, 4, Rgb(255, 0, 0))).value();
+  const ReadGif gif = ReadBack(WithOneMoreFrame(large, Plain(1, 1, kPalette15)).value());
+
+  ASSERT_EQ(gif.Frames.size(), 3u);
+  EXPECT_EQ(gif.Width, 3);
+  EXPECT_EQ(gif.Height, 4);
+  EXPECT_EQ(gif.Frames[1].Screen.Words, Plain(3, 4, Rgb(255, 0, 0)).Words);
+  Bitmap last = Plain(3, 4, kPalette0);
+  last.Words[0] = WordOf(kPalette15);
+  EXPECT_EQ(gif.Frames[2].Screen.Words, last.Words);
+}
+
+TEST(GifAnimation, IsNotAddedToWhatIsNoGif) {
+  EXPECT_FALSE(WithOneMoreFrame({}, EveryColour()));
+  EXPECT_FALSE(WithOneMoreFrame({'B', 'M', 1, 2, 3, 4}, EveryColour()));
+  EXPECT_FALSE(WithOneMoreFrame(FileBytes(1000, 'G'), EveryColour()));
+}
+
+TEST(GifAnimation, IsNotAddedToWhenItIsCutShortAnywhere) {
+  const FileBytes whole = WithOneMoreFrame(AnimationOf(EveryColour()), Plain(17, 15, 0)).value();
+  for (std::size_t length = 0; length < whole.size(); ++length) {
+    const FileBytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
+    EXPECT_FALSE(WithOneMoreFrame(cut, EveryColour())) << length << " of " << whole.size();
+  }
+}
+
+TEST(GifAnimation, IsNotAddedToAGifOfOtherColours) {
+  FileBytes other = AnimationOf(EveryColour());
+  ++other[13 + 3];  // the first part of colour 1; the palette stands behind 13 bytes of heading
+  EXPECT_FALSE(WithOneMoreFrame(other, EveryColour()));
+}
+
+// Makes the frames of a recording in memory, together and each for itself.
+struct FilmingPlatform : FakePlatform {
+  Raster raster;
+  FileBytes film;
+  std::vector<FileBytes> singles;
+
+  void SavePicture(const SaveRequest& request) override {
+    const Bitmap picture = raster.Paint(*dynamic_cast<PictureBox&>(*request.Source).Image());
+    film = request.FirstFrame ? AnimationOf(picture) : WithOneMoreFrame(film, picture).value();
+    singles.push_back(GifOf(picture));
+  }
+};
+
+TEST(GifAnimation, ARecordingIsSmallerThanItsFramesAlone) {
+  FilmingPlatform platform;
+  const auto desk = std::make_unique<Orvane_Desk>(platform);
+  desk->main.Visible = true;
+  SelectRow(*desk, desk->main.Pro_Lst, 1);
+  platform.Answers = {"abc"};
+  Click(*desk, desk->main.S_AnGif);
+  for (int tick = 0; tick < 36; ++tick) Tick(*desk, desk->main.Timer1);
+
+  const ReadGif gif = ReadBack(platform.film);
+  ASSERT_EQ(platform.singles.size(), 18u);
+  ASSERT_EQ(gif.Frames.size(), 18u);
+  std::size_t alone = 0;
+  std::set<FileBytes> different;
+  for (std::size_t i = 0; i < 18; ++i) {
+    const ReadGif single = ReadBack(platform.singles[i]);
+    EXPECT_EQ(gif.Frames[i].Screen.Words == single.Frames.at(0).Screen.Words, true) << i;
+    alone += platform.singles[i].size();
+    different.insert(platform.singles[i]);
+  }
+  EXPECT_EQ(different.size(), 18u) << "it turns from frame to frame";
+  EXPECT_LT(platform.film.size(), alone);
+}
+
+}  // namespace
+}  // namespace orvane
