@@ -43,8 +43,8 @@ void ShowEverything(Orvane_Desk& desk) {
   Click(desk, desk.main.Bt3_Sterio);
 }
 
-void Measure(Orvane_Desk& desk, std::vector<Clock::time_point>& ticks, const char* scene,
-             int interval) {
+void MeasureTicks(Orvane_Desk& desk, std::vector<Clock::time_point>& ticks, const char* scene,
+                  int interval) {
   StepBar(desk, desk.main.Rt_speed, interval);
   StepBar(desk, desk.main.VScroll1, 11);
   Click(desk, desk.main.P_Auto_Rotate);
@@ -89,7 +89,7 @@ int main(int count, char** words) {
 
   constexpr int kDoubleStrand = 2;
   SelectRow(*desk, desk->main.DNA_Lst, kDoubleStrand);
-  for (const int interval : {200, 1}) Measure(*desk, ticks, "double strand", interval);
+  for (const int interval : {200, 1}) MeasureTicks(*desk, ticks, "double strand", interval);
   ShowEverything(*desk);
-  for (const int interval : {200, 1}) Measure(*desk, ticks, "everything on", interval);
+  for (const int interval : {200, 1}) MeasureTicks(*desk, ticks, "everything on", interval);
 }
