@@ -1,5 +1,4 @@
-// The heaviest picture of a stock structure: 123 atoms and 136 bonds, bonds and balls at their
-// largest, with labels and hydrogen bonds, on the surface of 360 by 360.
+// The picture of the heaviest desk, as a list of strokes.
 #pragma once
 
 #include "draw/picture.h"

@@ -1,4 +1,4 @@
-// A benchmark's table, and below it how its rows compare.
+// The medians of a run's times, and how they compare.
 #pragma once
 
 #include <algorithm>
@@ -6,30 +6,57 @@
 #include <cstdio>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace orvane::bench {
 
-// Keeps the shortest time of each benchmark, since others work on the machine too.
+// What a ratio shall not pass, or shall reach; 0: it is only told.
+struct Bound {
+  double AtMost = 0, AtLeast = 0;
+};
+
+// Keeps the processor's time of each repetition, since others work on the machine too, and prints
+// nothing before all are there.
 class Ratios : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override {
-    ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {
       if (run.run_type != Run::RT_Iteration) continue;
-      const double time = run.cpu_accumulated_time / static_cast<double>(run.iterations);
-      double& shortest = shortest_.try_emplace(run.run_name.function_name, time).first->second;
-      shortest = std::min(shortest, time);
+      if (run.error_occurred) {
+        std::printf("%s: %s\n", run.run_name.str().c_str(), run.error_message.c_str());
+        continue;
+      }
+      std::string name = run.run_name.function_name;
+      if (!run.run_name.args.empty()) name += "/" + run.run_name.args;
+      times_[name].push_back(run.cpu_accumulated_time / static_cast<double>(run.iterations));
     }
   }
 
-  void Print(const char* what, const std::string& above, const std::string& below) const {
-    const auto first = shortest_.find(above), second = shortest_.find(below);
-    if (first == shortest_.end() || second == shortest_.end()) return;
-    std::printf("%-48s %6.1f\n", what, first->second / second->second);
+  void PrintTimes() const {
+    for (const auto& [name, times] : times_) {
+      std::printf("%-52s %10.2f us\n", name.c_str(), 1e6 * Median(times));
+    }
+    std::printf("\n");
+  }
+
+  void Print(const char* what, const std::string& above, const std::string& below,
+             Bound bound = {}) const {
+    const auto first = times_.find(above), second = times_.find(below);
+    if (first == times_.end() || second == times_.end()) return;
+    std::printf("%-52s %8.1f", what, Median(first->second) / Median(second->second));
+    if (bound.AtMost > 0) std::printf("   at most  %6.1f", bound.AtMost);
+    if (bound.AtLeast > 0) std::printf("   at least %6.1f", bound.AtLeast);
+    std::printf("\n");
   }
 
  private:
-  std::map<std::string, double> shortest_;
+  static double Median(std::vector<double> times) {
+    const auto middle = times.begin() + static_cast<long>(times.size() / 2);
+    std::nth_element(times.begin(), middle, times.end());
+    return *middle;
+  }
+
+  std::map<std::string, std::vector<double>> times_;
 };
 
 }  // namespace orvane::bench
