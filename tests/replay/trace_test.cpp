@@ -66,6 +66,20 @@ TEST(Trace, OfThePlotHasCirclesOnItsAreasAlone) {
   EXPECT_EQ(traced.stream.str(), "plot 2 12.5 0.100000001\nplot 0 1 2\n");
 }
 
+// Both torsions of a helix are below 0, which is the area with index 1. Of its twelve residues the
+// first is passed over, and the last has no neighbour to be measured with.
+TEST(Trace, OfASurveyHasAMarkForEachResidueOfAHelix) {
+  Traced traced;
+  traced.Do("enter\nselect Pro_Lst 1");
+  const std::string printed = traced.Do("click RCDP");
+  int marks = 0;
+  for (auto at = printed.find("\nplot 1 "); at != std::string::npos;
+       at = printed.find("\nplot 1 ", at + 1)) {
+    ++marks;
+  }
+  EXPECT_GE(marks, 10);
+}
+
 TEST(Trace, LeavesOtherPicturesOut) {
   Traced traced;
   traced.Desk().main.PC.Line(0, 0, 1, 1, 0);
