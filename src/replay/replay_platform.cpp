@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "replay/json_line.h"
+#include "runtime/failure.h"
 
 namespace orvane {
 namespace {
@@ -57,6 +58,7 @@ void ReplayPlatform::EndProgram() {
 }
 
 void ReplayPlatform::SavePicture(const SaveRequest& request) {
+  if (!SaveFails.empty()) FailPlatform(SaveFails);
   output_.Line("save " + std::string(FormatName(request.Format)) + " " +
                TextInQuotes(request.Name) + " " + SourceName(*request.Source));
 }

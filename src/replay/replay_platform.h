@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <string>
 
 #include "controls/platform.h"
@@ -19,15 +20,21 @@ class ReplayPlatform : public Platform {
   bool HasPrinter = true;
   bool Ended = false;
 
+  // No script sets these; whoever drives a player from code does.
+  std::function<void()> PendingEvents;  // runs inside LetEventsRun
+  std::string SaveFails;                // not empty: every save fails with this clause
+
   void Beep() override;
   void MessageBox(std::string_view text) override;
   void WarningBox(std::string_view text) override;
   void FailureBox(std::string_view text) override;
   std::string InputBox(std::string_view prompt, std::string_view title) override;
 
-  // A script's actions come one after the other, so nothing is ever pending.
-  void LetEventsRun() override {}
-  void Wait(int) override {}
+  // A script's actions come one after the other, so nothing of it is ever pending.
+  void LetEventsRun() override {
+    if (PendingEvents) PendingEvents();
+  }
+  void Wait(int) override { LetEventsRun(); }
   void EndProgram() override;
 
   void SavePicture(const SaveRequest& request) override;

@@ -1,0 +1,122 @@
+// A user without a plan: a hundred thousand actions, and behind each what holds at every desk.
+#include <gtest/gtest.h>
+
+#include "random_desk/life.h"
+#include "random_desk/moves.h"
+#include "random_desk/shrink.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kActions = 100000;
+constexpr int kLife = 2500;
+
+TEST(ARandomDesk, DoesNotBreakInAHundredThousandActions) {
+  int played = 0;
+  for (std::uint64_t seed = 1; played < kActions; ++seed) {
+    Session session;
+    const Life life = PlayLife(session, seed, kLife, nullptr);
+    ASSERT_EQ(life.Wrong, "") << "orvane-random-desk --life " << kLife << " --seed " << seed
+                              << " leaves a script of it";
+    ASSERT_GT(life.Actions, 0);
+    played += life.Actions;
+  }
+}
+
+TEST(ARandomDesk, PlaysTheSameFromTheSameSeed) {
+  const auto lines_of = [](std::uint64_t seed) {
+    std::vector<std::string> lines;
+    Session session;
+    PlayLife(session, seed, 300, [&](std::string_view line) { lines.emplace_back(line); });
+    return lines;
+  };
+  EXPECT_EQ(lines_of(7), lines_of(7));
+  EXPECT_NE(lines_of(7), lines_of(8));
+}
+
+// So that a check that sees nothing does not pass for a desk without faults.
+struct Damage {
+  const char* Name;
+  void (*Do)(Orvane_Desk& desk);
+};
+
+class WhatAlwaysHolds : public ::testing::TestWithParam<Damage> {};
+
+TEST_P(WhatAlwaysHolds, IsMissedWhenItDoesNot) {
+  Session session;
+  LastSeen last;
+  for (const char* line : {"enter", "select Pro_Lst 1", "click Bt3_Sterio"}) {
+    ASSERT_EQ(PlayRandomLine(session, line), "");
+  }
+  ASSERT_EQ(WhatIsWrong(session, last, true), "");
+  GetParam().Do(session.Desk());
+  EXPECT_NE(WhatIsWrong(session, last, true), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    ARandomDesk, WhatAlwaysHolds,
+    ::testing::Values(
+        Damage{"ACount", [](Orvane_Desk& desk) { desk.molecule.BondCount = -1; }},
+        Damage{"AFlag", [](Orvane_Desk& desk) { desk.drawing.BallsOn = 2; }},
+        Damage{"AWidth", [](Orvane_Desk& desk) { desk.drawing.BondWidth = 7; }},
+        Damage{"TheOverdraw", [](Orvane_Desk& desk) { desk.drawing.OverdrawPass = 1; }},
+        Damage{"ACaption", [](Orvane_Desk& desk) { desk.main.Bt3_Label.Caption = "Label"; }},
+        Damage{"ABond", [](Orvane_Desk& desk) { desk.molecule.BondB[1] = desk.molecule.BondA[1]; }},
+        Damage{"TheCoordinatesAsRead", [](Orvane_Desk& desk) { desk.molecule.AtomX[1] += 1; }},
+        Damage{"ACoordinate", [](Orvane_Desk& desk) { desk.molecule.CurX[1] = 0.0 / 0.0; }},
+        Damage{"TheAxis", [](Orvane_Desk& desk) { desk.view.AxisY = 0; }},
+        Damage{"ASecondAxis", [](Orvane_Desk& desk) { desk.view.AxisX = 1; }},
+        Damage{"TheHourglass",
+               [](Orvane_Desk& desk) { desk.main.MousePointer = kPointerHourglass; }},
+        Damage{"ABar", [](Orvane_Desk& desk) { desk.main.ZoomBar.Value = 101; }},
+        Damage{"ARow", [](Orvane_Desk& desk) { desk.main.AA_Lst.ListIndex = 99; }},
+        Damage{"APicture",
+               [](Orvane_Desk& desk) {
+                 auto picture = std::make_shared<Picture>();
+                 picture->Strokes.push_back({.Kind = StrokeKind::Print, .Text = 3});
+                 desk.main.L_Img.SetPicture(picture);
+               }}),
+    [](const auto& damage) { return damage.param.Name; });
+
+TEST(ARandomDesk, PlaysWhatNestsInsideATick) {
+  Session session;
+  for (const char* line : {"enter", "select Pro_Lst 1", "click P_Auto_Rotate",
+                           "#nest click Bt3_Label", "#nest click P_Auto_Rotate"}) {
+    ASSERT_EQ(PlayRandomLine(session, line), "");
+  }
+  EXPECT_EQ(session.Desk().drawing.LabelsOn, 0);
+  ASSERT_EQ(PlayRandomLine(session, "tick Timer1"), "");
+  EXPECT_EQ(session.Desk().drawing.LabelsOn, 1);
+  EXPECT_EQ(session.Desk().view.AutoRotateOn, 0);
+}
+
+TEST(ARandomDesk, MakesTheHourglassGoWhenASaveFails) {
+  Session session;
+  LastSeen last;
+  for (const char* line : {"enter", "#save-fails", "answer abc", "click S_bmp"}) {
+    ASSERT_EQ(PlayRandomLine(session, line), "");
+  }
+  EXPECT_EQ(session.failures.Counts.size(), 1U);
+  EXPECT_EQ(WhatIsWrong(session, last, true), "");
+}
+
+TEST(AShrunkScript, KeepsOnlyWhatItNeeds) {
+  const std::vector<std::string> script{"a", "b", "x", "c", "d", "y", "e", "z", "f"};
+  const auto needs = [](const std::vector<std::string>& lines) {
+    const auto has = [&](const char* line) {
+      return std::find(lines.begin(), lines.end(), line) != lines.end();
+    };
+    return has("x") && has("y") && has("z");
+  };
+  EXPECT_EQ(Shrunk(script, needs, 1000), (std::vector<std::string>{"x", "y", "z"}));
+}
+
+TEST(AShrunkScript, IsWhatItHasWhenTheTriesAreUsedUp) {
+  const std::vector<std::string> script{"a", "b", "c"};
+  EXPECT_EQ(Shrunk(
+                script, [](const auto&) { return true; }, 0),
+            script);
+}
+
+}  // namespace
+}  // namespace orvane

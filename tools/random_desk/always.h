@@ -1,0 +1,22 @@
+// What holds at every desk between two actions, whatever the user did.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "random_desk/session.h"
+
+namespace orvane {
+
+// What the check before found, for what an action may not change.
+struct LastSeen {
+  std::uint64_t AsRead = 0;  // digest of the coordinates as they were read
+  bool HadAxis = true;
+  bool InRange = true;  // the working coordinates were far from the end of all numbers
+  int Checks = 0;
+};
+
+// Empty: all is well; else the first thing that is not. `thorough` reads every picture, too.
+std::string WhatIsWrong(Session& session, LastSeen& last, bool thorough);
+
+}  // namespace orvane

@@ -1,0 +1,48 @@
+#include "random_desk/life.h"
+
+#include "random_desk/moves.h"
+
+namespace orvane {
+namespace {
+
+void PlayAndCheck(Session& session, std::string_view line, LastSeen& last, Life& life) {
+  const std::string complaint = PlayRandomLine(session, line);
+  ++life.Actions;
+  if (!complaint.empty()) {
+    life.Wrong = "\"" + std::string(line) + "\" is no action: " + complaint;
+    return;
+  }
+  life.Wrong = WhatIsWrong(session, last, life.Actions % kThoroughEvery == 0);
+}
+
+bool IsOver(const Session& session, const Life& life) {
+  return session.player.platform->Ended || !life.Wrong.empty();
+}
+
+}  // namespace
+
+Life PlayLife(Session& session, std::uint64_t seed, int actions, const LineListener& before) {
+  Life life;
+  LastSeen last;
+  Dice dice{seed};
+  while (life.Actions < actions && !IsOver(session, life)) {
+    for (const std::string& line : NextLines(dice, session)) {
+      if (IsOver(session, life)) break;
+      if (before) before(line);
+      PlayAndCheck(session, line, last, life);
+    }
+  }
+  return life;
+}
+
+Life PlayLines(Session& session, std::span<const std::string> lines) {
+  Life life;
+  LastSeen last;
+  for (const std::string& line : lines) {
+    if (IsOver(session, life)) break;
+    PlayAndCheck(session, line, last, life);
+  }
+  return life;
+}
+
+}  // namespace orvane

@@ -1,0 +1,34 @@
+// A life: one desk from its start until so many actions are played, the program ends, or something
+// is wrong.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "random_desk/always.h"
+#include "random_desk/session.h"
+
+namespace orvane {
+
+// How often every picture is read, too, in actions.
+inline constexpr int kThoroughEvery = 16;
+
+struct Life {
+  int Actions = 0;    // lines that were played
+  std::string Wrong;  // empty: nothing
+};
+
+// Hears each line before it is played.
+using LineListener = std::function<void(std::string_view line)>;
+
+// Plays a life by chance. A session serves one life.
+Life PlayLife(Session& session, std::uint64_t seed, int actions, const LineListener& before);
+
+// Plays those lines, with the same checks behind each.
+Life PlayLines(Session& session, std::span<const std::string> lines);
+
+}  // namespace orvane

@@ -1,0 +1,110 @@
+// orvane-random-desk: plays at random for as long as one likes, and leaves a short script of what
+// went wrong.
+#include <charconv>
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string_view>
+
+#include "random_desk/life.h"
+#include "random_desk/shrink.h"
+#include "random_desk/trial.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::string_view kUsage =
+    "usage: orvane-random-desk [--actions N] [--seed S] [--life N] [--play SCRIPT]\n"
+    "  --actions  play at least so many (100000)\n"
+    "  --seed     of the first life; each has the next (1)\n"
+    "  --life     actions at one desk at the most (3000)\n"
+    "  --play     play that script instead, with the checks behind each line\n";
+constexpr int kTries = 600;  // to shorten a script
+
+struct Options {
+  long Actions = 100000;
+  long Seed = 1;
+  long Life = 3000;
+  std::string Play;
+};
+
+bool ReadOptions(int argc, char** argv, Options& options) {
+  for (int i = 1; i + 1 < argc; i += 2) {
+    const std::string_view name = argv[i], value = argv[i + 1];
+    if (name == "--play") {
+      options.Play = value;
+      continue;
+    }
+    long* number = name == "--actions" ? &options.Actions
+                   : name == "--seed"  ? &options.Seed
+                   : name == "--life"  ? &options.Life
+                                       : nullptr;
+    if (number == nullptr) return false;
+    const auto [end, error] = std::from_chars(value.begin(), value.end(), *number);
+    if (error != std::errc() || end != value.end()) return false;
+  }
+  return argc % 2 == 1;
+}
+
+std::vector<std::string> ReadLines(const std::string& file) {
+  std::vector<std::string> lines;
+  std::ifstream stream(file, std::ios::binary);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+// Keeps the script of a life that went wrong, as short as it can be made.
+void Report(const Trial& trial, long seed) {
+  const auto still_wrong = [](const std::vector<std::string>& lines) {
+    return TryLines(lines, false).IsWrong;
+  };
+  std::cout << "seed " << seed << " went wrong after " << trial.Lines.size()
+            << " actions: " << trial.Reason << "\n";
+  const std::vector<std::string> shortest = Shrunk(trial.Lines, still_wrong, kTries);
+  const std::string file = "random-desk-" + std::to_string(seed) + ".txt";
+  std::ofstream stream(file, std::ios::binary);
+  for (const std::string& line : shortest) stream << line << "\n";
+  std::cout << "  " << shortest.size() << " actions show it: " << file << std::endl;
+}
+
+int PlayAtRandom(const Options& options) {
+  std::map<std::string, long> failures;
+  long actions = 0, lives = 0, wrong = 0;
+  for (long seed = options.Seed; actions < options.Actions; ++seed, ++lives) {
+    const Trial trial = TryLife(static_cast<std::uint64_t>(seed), static_cast<int>(options.Life));
+    actions += static_cast<long>(trial.Lines.size());
+    for (const auto& [text, count] : trial.Failures) failures[text] += count;
+    if (trial.IsWrong) {
+      ++wrong;
+      Report(trial, seed);
+    }
+    if (lives % 100 == 99) {
+      std::cout << actions << " actions, " << lives + 1 << " lives, " << wrong << " wrong"
+                << std::endl;
+    }
+  }
+  std::cout << actions << " actions, " << lives << " lives, " << wrong << " wrong\n";
+  for (const auto& [text, count] : failures)
+    std::cout << "  " << count << " times " << text << "\n";
+  return wrong == 0 ? 0 : 1;
+}
+
+int PlayScriptFile(const std::string& file) {
+  const Trial trial = TryLines(ReadLines(file), true);
+  std::cout << (trial.IsWrong ? trial.Reason : "nothing is wrong") << "\n";
+  return trial.IsWrong ? 1 : 0;
+}
+
+}  // namespace
+}  // namespace orvane
+
+int main(int argc, char** argv) {
+  orvane::Options options;
+  if (!orvane::ReadOptions(argc, argv, options)) {
+    std::cerr << orvane::kUsage;
+    return 2;
+  }
+  return options.Play.empty() ? orvane::PlayAtRandom(options)
+                              : orvane::PlayScriptFile(options.Play);
+}

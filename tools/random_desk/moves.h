@@ -1,0 +1,17 @@
+// What a user might do next, at random: any control of any window, with more weight on what
+// matters.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "random_desk/dice.h"
+#include "random_desk/session.h"
+
+namespace orvane {
+
+// One action, with the lines that prepare it (an answer to the box it opens, what nests in a tick),
+// as the desk stands now. Most are open to the user; some are not, and some are forced.
+std::vector<std::string> NextLines(Dice& dice, Session& session);
+
+}  // namespace orvane

@@ -1,0 +1,98 @@
+#include "random_desk/session.h"
+
+#include "controls/kinds.h"
+#include "desk/actions.h"
+#include "draw/surface.h"
+#include "replay/script_line.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::string_view kNest = "#nest ";
+constexpr std::string_view kDiskFull = "the disk is full";
+
+void ListenToPending(Session& session) {
+  session.player.platform->PendingEvents = [&session] {
+    // What is played may let events run in its turn, and finds what is left.
+    while (!session.Pending.empty()) {
+      const std::string line = session.Pending.front();
+      session.Pending.pop_front();
+      PlayRandomLine(session, line);
+    }
+  };
+}
+
+void PlayResize(Session& session, ScriptLine& words) {
+  const std::string_view name = words.NextWord();
+  const int state = WholeNumber(words.NextWord()).value_or(0);
+  Place now;
+  for (int* side : {&now.Left, &now.Top, &now.Width, &now.Height}) {
+    *side = WholeNumber(words.NextWord()).value_or(0);
+  }
+  for (Window* window : session.Desk().windows) {
+    if (window->Name == name) Resize(session.Desk(), *window, now, static_cast<WindowState>(state));
+  }
+}
+
+// As a skin does it: the surfaces and every snapshot that an image control was given.
+void Look(Session& session, double scale) {
+  for (const Window* window : session.Desk().windows) {
+    for (Control* control : window->Controls) {
+      std::shared_ptr<const Picture> picture;
+      if (const auto* box = dynamic_cast<const PictureBox*>(control)) picture = box->Image();
+      if (const auto* image = dynamic_cast<const ImageBox*>(control)) picture = image->Shown();
+      if (picture) session.raster.Paint(*picture, scale);
+    }
+  }
+}
+
+void PlayRemark(Session& session, std::string_view remark) {
+  if (remark.starts_with(kNest)) {
+    session.Pending.emplace_back(remark.substr(kNest.size()));
+    return;
+  }
+  ScriptLine words(remark);
+  const std::string_view word = words.NextWord();
+  if (word == "#save-fails") session.player.platform->SaveFails = kDiskFull;
+  if (word == "#saves") session.player.platform->SaveFails.clear();
+  if (word == "#resize") PlayResize(session, words);
+  if (word == "#look") Look(session, RealNumber(words.NextWord()).value_or(1));
+  if (word == "#enter" || word == "#focus") {
+    Control* control = session.Desk().FindControl(words.NextWord());
+    if (control == nullptr) return;
+    word == "#enter" ? PointerEnters(session.Desk(), *control)
+                     : FocusComes(session.Desk(), *control);
+  }
+}
+
+bool Holds(std::string_view line, std::string_view words) {
+  return line.find(words) != std::string_view::npos;
+}
+
+}  // namespace
+
+std::streamsize FailureTally::xsputn(const char* text, std::streamsize length) {
+  const std::string_view line(text, static_cast<std::size_t>(length));
+  if (line.starts_with("failure ")) ++Counts[std::string(line)];
+  return length;
+}
+
+Session::Session() { ListenToPending(*this); }
+
+std::string PlayRandomLine(Session& session, std::string_view line) {
+  if (line.starts_with('#')) {
+    PlayRemark(session, line);
+    return "";
+  }
+  const bool starts_anew = line == "restart";
+  session.MayHaveLoaded |= starts_anew || Holds(line, "select ") || Holds(line, "click Bt_M_Ld");
+  session.MayHaveLostAxis |= starts_anew || Holds(line, "release Picture1");
+  std::string complaint = PlayLine(session.player, line);
+  if (starts_anew) {
+    session.Pending.clear();
+    ListenToPending(session);
+  }
+  return complaint;
+}
+
+}  // namespace orvane

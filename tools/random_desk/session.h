@@ -1,0 +1,53 @@
+// A desk that is played by chance: lines of a replay script, and a few remarks of its own for what
+// no script can ask. orvane-replay skips a remark, so it plays the same lines as far as it can.
+//
+//   #nest LINE             the next time events are let run, LINE is played inside
+//   #save-fails / #saves   saves fail / work from here on
+//   #enter NAME            the pointer comes onto a control
+//   #focus NAME            the keyboard comes to a control
+//   #resize WINDOW STATE LEFT TOP WIDTH HEIGHT    STATE: 0 normal, 1 minimised, 2 maximised
+//   #look SCALE            everything that shows is painted at that scale
+#pragma once
+
+#include <deque>
+#include <map>
+#include <ostream>
+#include <streambuf>
+#include <string>
+#include <string_view>
+
+#include "draw/raster.h"
+#include "replay/player.h"
+
+namespace orvane {
+
+// Takes a player's lines and keeps only how often each failure was shown.
+class FailureTally : public std::streambuf {
+ public:
+  std::map<std::string, long> Counts;
+
+ protected:
+  std::streamsize xsputn(const char* text, std::streamsize length) override;
+  int overflow(int letter) override { return letter; }
+};
+
+struct Session {
+  Session();
+
+  FailureTally failures;
+  std::ostream stream{&failures};
+  Player player{stream};
+  Raster raster;
+  std::deque<std::string> Pending;  // what the next pending events will be
+
+  // What the line played last, with all that nested in it, was allowed to change.
+  bool MayHaveLoaded = false;    // a structure was read
+  bool MayHaveLostAxis = false;  // a button let go over the picture puts a saved axis back
+
+  Orvane_Desk& Desk() { return *player.desk; }
+};
+
+// Plays one line. Empty: done; else the line is no action, for the reason that is returned.
+std::string PlayRandomLine(Session& session, std::string_view line);
+
+}  // namespace orvane

@@ -1,0 +1,23 @@
+// A life in a process of its own, so that a crash, a sanitizer's halt or a hang ends that life and
+// not the run, and its lines are known afterwards.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace orvane {
+
+struct Trial {
+  bool IsWrong = false;
+  std::string Reason;                    // what a check found, or how the process ended
+  std::vector<std::string> Lines;        // as far as it came
+  std::map<std::string, long> Failures;  // failure boxes by text; of a life that went well
+};
+
+Trial TryLife(std::uint64_t seed, int actions);
+// `speaks`: what a sanitizer says about it is shown.
+Trial TryLines(const std::vector<std::string>& lines, bool speaks);
+
+}  // namespace orvane
