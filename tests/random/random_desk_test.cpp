@@ -9,7 +9,7 @@ namespace orvane {
 namespace {
 
 constexpr int kActions = 100000;
-constexpr int kLife = 2500;
+constexpr int kLife = 4000;
 
 TEST(ARandomDesk, DoesNotBreakInAHundredThousandActions) {
   int played = 0;

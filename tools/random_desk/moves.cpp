@@ -148,9 +148,10 @@ void AppendOuterWorld(Dice& dice, Session& session, Lines& lines) {
     case 4:
       return lines.push_back("sound-fails " + std::to_string(dice.Between(-1, 400))), void();
     case 5:
+    case 6:
       return AppendResize(dice, session.Desk(), lines);
     default:
-      return lines.push_back("#look " + Text(dice.Between(1, 12) / 4.0)), void();
+      return lines.push_back("#look " + Text(dice.Between(1, 8) / 4.0)), void();
   }
 }
 

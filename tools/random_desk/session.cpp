@@ -1,5 +1,7 @@
 #include "random_desk/session.h"
 
+#include <cmath>
+
 #include "controls/kinds.h"
 #include "desk/actions.h"
 #include "draw/surface.h"
@@ -34,14 +36,19 @@ void PlayResize(Session& session, ScriptLine& words) {
   }
 }
 
-// As a skin does it: the surfaces and every snapshot that an image control was given.
+// As a skin does it: the surfaces and the snapshots that stand on the screen now.
 void Look(Session& session, double scale) {
   for (const Window* window : session.Desk().windows) {
     for (Control* control : window->Controls) {
+      if (!control->IsOpenToUser()) continue;
       std::shared_ptr<const Picture> picture;
       if (const auto* box = dynamic_cast<const PictureBox*>(control)) picture = box->Image();
       if (const auto* image = dynamic_cast<const ImageBox*>(control)) picture = image->Shown();
-      if (picture) session.raster.Paint(*picture, scale);
+      if (!picture) continue;
+      const auto width = static_cast<int>(std::lround(picture->Width * scale));
+      const auto height = static_cast<int>(std::lround(picture->Height * scale));
+      session.canvas.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+      session.raster.Paint(*picture, scale, session.canvas.data(), width, height, width);
     }
   }
 }

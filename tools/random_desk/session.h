@@ -9,12 +9,14 @@
 //   #look SCALE            everything that shows is painted at that scale
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <map>
 #include <ostream>
 #include <streambuf>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "draw/raster.h"
 #include "replay/player.h"
@@ -38,6 +40,7 @@ struct Session {
   std::ostream stream{&failures};
   Player player{stream};
   Raster raster;
+  std::vector<std::uint32_t> canvas;
   std::deque<std::string> Pending;  // what the next pending events will be
 
   // What the line played last, with all that nested in it, was allowed to change.
