@@ -64,7 +64,7 @@ std::vector<std::string> BondsOfBase(char base) {
 std::vector<std::string> BondsOfSugar(char base) {
   std::vector<std::string> names =
       WordsOf("C1*-C2* C1*-O4* C2*-C3* C3*-C4* C3*-O3* C4*-C5* C4*-O4* C5*-O5*");
-  names.push_back(IsPurine(base) ? "C1*-N9" : "C1*-N1");
+  names.emplace_back(IsPurine(base) ? "C1*-N9" : "C1*-N1");
   return names;
 }
 

@@ -119,7 +119,8 @@ std::vector<std::string> Structure::BondNames() {
   for (const Pair& bond : Bonds()) {
     if (IsContact(bond)) continue;
     const auto [first, second] = std::minmax({Name(bond.A), Name(bond.B)});
-    names.push_back(first + "-" + second);
+    names.push_back(first);
+    names.back().append("-").append(second);
   }
   std::sort(names.begin(), names.end());
   return names;

@@ -156,7 +156,7 @@ const std::vector<Text>& Texts() {
   return texts;
 }
 
-std::string RightAligned(std::string text, std::size_t width) {
+std::string RightAligned(const std::string& text, std::size_t width) {
   return std::string(width - text.size(), ' ') + text;
 }
 
@@ -262,6 +262,7 @@ TEST(StockTexts, NoBondLiesFlatInZOrX) {
 
 std::vector<int> SerialsOf(const Structure& structure) {
   std::vector<int> serials;
+  serials.reserve(static_cast<std::size_t>(structure.Count()));
   for (int i = 0; i < structure.Count(); ++i) {
     serials.push_back(std::stoi(structure.Store().MolText.substr(55u * i + 4, 7)));
   }
