@@ -1,12 +1,22 @@
 #include "desktop/skin.h"
 
+#include <algorithm>
+
 #include "desk/actions.h"
 #include "desktop/control_view.h"
 #include "desktop/window_widget.h"
 
 namespace orvane {
+namespace {
+
+constexpr int kBeat = 8;  // milliseconds; no screen in a classroom shows more pictures than that
+
+}  // namespace
 
 Skin::Skin(Orvane_Desk& of, QtPlatform& outside) : desk(of), platform(outside) {
+  beat_.setSingleShot(true);
+  beat_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&beat_, &QTimer::timeout, &beat_, [this] { RepaintNow(); });
   for (Window* window : desk.windows) {
     window->Watcher = this;
     for (Control* control : window->Controls) {
@@ -38,7 +48,21 @@ QWidget* Skin::WidgetOf(const Control& control) {
   return view == nullptr ? nullptr : &view->widget;
 }
 
-void Skin::RepaintSoon(QWidget& picture) { picture.update(); }
+void Skin::RepaintSoon(QWidget& picture) {
+  if (std::find(waiting_.begin(), waiting_.end(), &picture) == waiting_.end())
+    waiting_.emplace_back(&picture);
+  if (beat_.isActive()) return;
+  const qint64 since = since_beat_.isValid() ? since_beat_.elapsed() : kBeat;
+  beat_.start(static_cast<int>(std::max<qint64>(0, kBeat - since)));
+}
+
+void Skin::RepaintNow() {
+  since_beat_.start();
+  for (const QPointer<QWidget>& picture : waiting_) {
+    if (picture != nullptr) picture->update();
+  }
+  waiting_.clear();
+}
 
 void Skin::SetTimer(Timer& timer) {
   std::unique_ptr<QTimer>& own = timers_[&timer];

@@ -3,9 +3,12 @@
 
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QTimer>
+#include <QWidget>
 
 #include "controls/window.h"
 #include "desk/orvane_desk.h"
@@ -31,15 +34,20 @@ class Skin : public ControlWatcher {
   WindowWidget& WindowOf(Window& window);
   QWidget* WidgetOf(const Control& control);
 
-  // Pictures are painted at most once in a screen's beat, however often they were drawn on.
+  // Pictures are painted together and at most once in a screen's beat, however often they were
+  // drawn on.
   void RepaintSoon(QWidget& picture);
 
  private:
   void SetTimer(Timer& timer);
   void TickOf(Timer& timer);
+  void RepaintNow();
 
   std::unordered_map<const Window*, std::unique_ptr<WindowWidget>> windows_;
   std::unordered_map<const Timer*, std::unique_ptr<QTimer>> timers_;
+  std::vector<QPointer<QWidget>> waiting_;  // pictures to paint at the next beat
+  QTimer beat_;
+  QElapsedTimer since_beat_;
 };
 
 }  // namespace orvane

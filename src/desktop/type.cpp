@@ -22,6 +22,9 @@ void AddFont(std::span<const unsigned char> bytes) {
 }  // namespace
 
 void LoadType() {
+  // The machine's own fonts are listed at the first question. Asked now, they cannot come later and
+  // take the place of ours with another cut of the same name.
+  (void)QFontDatabase::hasFamily(QStringLiteral("Inter"));
   AddFont(embedded::inter_regular());
   AddFont(embedded::inter_medium());
   AddFont(embedded::inter_semibold());

@@ -59,6 +59,28 @@ TEST(ThePicture, IsRasteredAtTheDensityOfTheScreen) {
   EXPECT_EQ(shot.width(), static_cast<int>(360 * ratio));
 }
 
+// How often the window was asked to paint the picture.
+struct Paints : QObject {
+  int Count = 0;
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++Count;
+    return false;
+  }
+};
+
+TEST(ThePicture, IsPaintedOnceHoweverOftenItWasDrawnOn) {
+  PictureAtWork work;
+  work.ClickRow(work.main.AA_Lst, 1);
+  QTest::qWait(50);
+  Paints paints;
+  work.WidgetOf(work.main.Picture1).installEventFilter(&paints);
+
+  for (int i = 0; i < 20; ++i) work.main.ZoomBar.SetValue(i * 5);
+  QTest::qWait(50);
+
+  EXPECT_EQ(paints.Count, 1);
+}
+
 TEST(ThePicture, APairShowsTheSameStructureInBothViews) {
   PictureAtWork work;
   work.ClickRow(work.main.Pro_Lst, 1);
