@@ -1,4 +1,6 @@
 // A user without a plan: a hundred thousand actions, and behind each what holds at every desk.
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 #include "random_desk/life.h"
@@ -98,6 +100,46 @@ TEST(ARandomDesk, MakesTheHourglassGoWhenASaveFails) {
   }
   EXPECT_EQ(session.failures.Counts.size(), 1U);
   EXPECT_EQ(WhatIsWrong(session, last, true), "");
+}
+
+// 1.1 to the power of 7500 is beyond 1.8e308, and 0.9 to that power below all numbers but 0. At the
+// half of the bar each thumb let go is one more step the same way.
+TEST(ARandomDesk, GoesOnWhereTheZoomRunsOutOfNumbers) {
+  for (const char* start : {"bar ZoomBar 50", "bar ZoomBar -50"}) {
+    Session session;
+    LastSeen last;
+    const auto play = [&](const char* line) {
+      ASSERT_EQ(PlayRandomLine(session, line), "");
+      ASSERT_EQ(WhatIsWrong(session, last, true), "") << line;
+    };
+    for (const char* line : {"enter", "select Pro_Lst 1", start}) play(line);
+    for (int step = 0; step < 7500; ++step) PlayRandomLine(session, "drop ZoomBar");
+    const double size = std::abs(session.Desk().molecule.CurX[1]);
+    EXPECT_FALSE(size > 1e-300 && size < 1e300) << size;
+    last.InRange = false;
+    for (const char* line : {"click Bt3_Label",
+                             "click D_StB",
+                             "#look 1",
+                             "click Bt3_Sterio",
+                             "#look 2",
+                             "click Bt3_Sterio",
+                             "click R_G_Stereo",
+                             "click D_Ca",
+                             "#look 1",
+                             "click M_Rbn",
+                             "#look 1",
+                             "click Cartn",
+                             "#look 1",
+                             "click OPB",
+                             "#look 1",
+                             "press Picture1 1 9 9",
+                             "move Picture1 2 50 60",
+                             "release Picture1 2 50 60",
+                             "click Bt3_Dts",
+                             "#look 0.5"}) {
+      play(line);
+    }
+  }
 }
 
 TEST(AShrunkScript, KeepsOnlyWhatItNeeds) {
