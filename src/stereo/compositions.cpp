@@ -43,6 +43,18 @@ class Overdraw {
   Drawing& drawing_;
 };
 
+// Cells that are zero outside a composition: cleared at its begin and at its end.
+class EmptyOutside {
+ public:
+  explicit EmptyOutside(AxisCells& cells) : cells_(cells) { cells_ = {}; }
+  EmptyOutside(const EmptyOutside&) = delete;
+  EmptyOutside& operator=(const EmptyOutside&) = delete;
+  ~EmptyOutside() { cells_ = {}; }
+
+ private:
+  AxisCells& cells_;
+};
+
 void Turn(Orvane_Desk& desk, double degrees) {
   desk.view.TurnAngle = degrees;
   RotateAll(desk);
@@ -51,16 +63,13 @@ void Turn(Orvane_Desk& desk, double degrees) {
 }  // namespace
 
 void ComposeStereoPair(Orvane_Desk& desk) {
-  desk.stereo.PairCells = {};
+  const EmptyOutside cells(desk.stereo.PairCells);
   RedrawView(desk);
   desk.main.L_Img.SetPicture(desk.main.Picture1.Image());
-  {
-    const VerticalAxis axis(desk.view, desk.stereo.PairCells);
-    Turn(desk, kEyeAngle);
-    desk.main.R_Img.SetPicture(desk.main.Picture1.Image());
-    Turn(desk, -kEyeAngle);
-  }
-  desk.stereo.PairCells = {};
+  const VerticalAxis axis(desk.view, desk.stereo.PairCells);
+  Turn(desk, kEyeAngle);
+  desk.main.R_Img.SetPicture(desk.main.Picture1.Image());
+  Turn(desk, -kEyeAngle);
 }
 
 void ComposeStereoPairB(Orvane_Desk& desk) {
@@ -85,18 +94,15 @@ void ComposeEnantiomerPair(Orvane_Desk& desk) {
 }
 
 void ComposeRedGreen(Orvane_Desk& desk) {
-  desk.stereo.RedGreenCells = {};
-  {
-    const Overdraw overdraw(desk.drawing);
-    const VerticalAxis axis(desk.view, desk.stereo.RedGreenCells);
-    if (desk.drawing.DrawFamily == 1) PaintTraceFamily(desk);
-    desk.colours.PenColour = desk.main.P_Clr[kRedSwatch].BackColor;
-    Turn(desk, kEyeAngle);
-    if (desk.drawing.DrawFamily == 1) PaintTraceFamily(desk);
-    desk.colours.PenColour = desk.main.P_Clr[kGreenSwatch].BackColor;
-    Turn(desk, -kEyeAngle);
-  }
-  desk.stereo.RedGreenCells = {};
+  const EmptyOutside cells(desk.stereo.RedGreenCells);
+  const Overdraw overdraw(desk.drawing);
+  const VerticalAxis axis(desk.view, desk.stereo.RedGreenCells);
+  if (desk.drawing.DrawFamily == 1) PaintTraceFamily(desk);
+  desk.colours.PenColour = desk.main.P_Clr[kRedSwatch].BackColor;
+  Turn(desk, kEyeAngle);
+  if (desk.drawing.DrawFamily == 1) PaintTraceFamily(desk);
+  desk.colours.PenColour = desk.main.P_Clr[kGreenSwatch].BackColor;
+  Turn(desk, -kEyeAngle);
 }
 
 }  // namespace orvane

@@ -237,6 +237,39 @@ TEST_F(Compositions, AFailureInsideGivesAxisAndOverdrawBack) {
   EXPECT_EQ(desk.drawing.OverdrawPass, 0);
   EXPECT_EQ(desk.view.AxisX, 1);
   EXPECT_EQ(desk.view.AxisY, 0);
+  EXPECT_EQ(desk.stereo.RedGreenCells.X, 0);
+}
+
+TEST_F(Compositions, AFailureInsideLeavesNoCellsOfThePairFilled) {
+  // The first repaint is run 32767 of the plane painter; the next, which is turned, overflows.
+  desk.drawing.PeptideOn = 1;
+  desk.drawing.PlanePaintCount = 32766;
+  desk.view.AxisX = 1;
+  desk.view.AxisY = 0;
+
+  Click(desk, desk.main.Bt3_Sterio);
+
+  ASSERT_FALSE(platform.Effects.empty());
+  ASSERT_TRUE(platform.Effects.back().starts_with("failure "));
+  EXPECT_EQ(desk.stereo.PairCells.X, 0);
+  EXPECT_EQ(desk.view.AxisX, 1);
+}
+
+TEST_F(Compositions, RedGreenOnTheSecondToggleRunsOnTheHiddenSurfaceAlone) {
+  Click(desk, desk.main.Bt3_Isomers, Reach::Forced);  // gives both images a picture
+  Click(desk, desk.main.Bt3_D_L_Str);                 // the off branch, by its caption
+  Click(desk, desk.main.R_G_Stereo);
+  const auto left = desk.main.L_Img.Shown();
+  const auto right = desk.main.R_Img.Shown();
+  platform.Effects.clear();
+
+  Click(desk, desk.main.Bt3_D_L_Str);
+
+  ASSERT_EQ(desk.stereo.EnantiomerPairOn, 1);
+  EXPECT_FALSE(desk.main.Picture1.IsOpenToUser());
+  EXPECT_EQ(desk.main.L_Img.Shown(), left);
+  EXPECT_EQ(desk.main.R_Img.Shown(), right);
+  EXPECT_EQ(desk.colours.PenColour, Rgb(0, 255, 0));
 }
 
 }  // namespace
