@@ -26,8 +26,6 @@ void ComposePair(Orvane_Desk& desk) {
   page.AA_name.Visible = true;
   page.L_Img.SetPicture(desk.main.L_Img.Shown());
   page.R_Img.SetPicture(desk.main.R_Img.Shown());
-  page.L_Img.Visible = true;
-  page.R_Img.Visible = true;
 }
 
 void ComposeSurface(Orvane_Desk& desk) {
@@ -36,8 +34,8 @@ void ComposeSurface(Orvane_Desk& desk) {
   page.L_Form.Visible = false;
   page.AA_name.Visible = false;
   page.Str_Entm.Visible = false;
-  page.L_Img.Visible = false;  // the large picture does not cover them to their edges
-  page.R_Img.Visible = false;
+  page.L_Img.SetPicture(nullptr);  // the large picture does not cover them to their edges
+  page.R_Img.SetPicture(nullptr);
   page.Image1.SetPicture(desk.main.Picture1.Image());
   page.Image1.Visible = true;
   page.Mol_Name.Caption = PageTitle(desk);

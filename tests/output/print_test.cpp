@@ -26,8 +26,19 @@ TEST_F(Print, ThePlainPageHoldsTheSurfaceAndTheName) {
   // "Orvane (OVN) v2.0: ALANINE (ALA A)" from its eleventh letter on.
   EXPECT_EQ(page.Mol_Name.Caption, "N) v2.0: ALANINE (ALA A)");
   for (const Control* hidden : std::initializer_list<const Control*>{
-           &page.R_Form, &page.L_Form, &page.AA_name, &page.Str_Entm, &page.L_Img, &page.R_Img}) {
+           &page.R_Form, &page.L_Form, &page.AA_name, &page.Str_Entm}) {
     EXPECT_FALSE(hidden->Visible) << hidden->Name;
+  }
+}
+
+TEST_F(Print, ThePlainPageEmptiesTheImagesOfThePairAndLeavesThemShown) {
+  Click(desk, desk.main.Bt3_Sterio);
+  Click(desk, desk.main.PrImg);
+  Click(desk, desk.main.Bt3_Sterio);
+  Click(desk, desk.main.PrImg);
+  for (const ImageBox* image : {&page.L_Img, &page.R_Img}) {
+    EXPECT_EQ(image->Shown(), nullptr) << image->Name;
+    EXPECT_TRUE(image->Visible) << image->Name;
   }
 }
 
@@ -60,7 +71,6 @@ TEST_F(Print, ASecondPrintAfterASplitViewHidesItsControlsAgain) {
   Click(desk, desk.main.PrImg);
   EXPECT_FALSE(page.L_Form.Visible);
   EXPECT_FALSE(page.Str_Entm.Visible);
-  EXPECT_FALSE(page.L_Img.Visible);
   EXPECT_TRUE(page.Image1.Visible);
 }
 
