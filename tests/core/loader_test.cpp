@@ -186,6 +186,30 @@ TEST(Loader, SlotsAboveTheCountKeepWhatALargerStructureLeft) {
   EXPECT_EQ(work.desk.molecule.AtomX[5], 10.0);
 }
 
+TEST(Loader, NoStaleAtomOfALargerStructureIsPaintedOrPicked) {
+  DeskAtWork work, fresh;
+  const auto bonded = [](int count) {
+    std::string text;
+    for (int i = 1; i <= count; ++i) text += Record("N", 1.5 * i, 0, 0);
+    return text;
+  };
+  Load(work.desk, bonded(5));
+  Load(work.desk, bonded(2));
+  Load(fresh.desk, bonded(2));
+  for (Orvane_Desk* desk : {&work.desk, &fresh.desk}) {
+    desk->molecule.MoleculeReady = 1;
+    Click(*desk, desk->main.D_StB, Reach::Forced);
+    Click(*desk, desk->main.Bt3_Label);
+  }
+  EXPECT_EQ(work.desk.main.Picture1.Image()->Strokes, fresh.desk.main.Picture1.Image()->Strokes);
+
+  // Atom 4 of the larger one lay a quarter to the right of the middle, where no atom is now.
+  const double x = work.desk.molecule.ScrX[4], y = work.desk.molecule.ScrY[4];
+  Press(work.desk, work.desk.main.Picture1, kLeftButton, static_cast<float>(x),
+        static_cast<float>(y));
+  EXPECT_EQ(work.desk.measure.PickState, 0);
+}
+
 TEST(Loader, ABondScanClearsTheReadout) {
   DeskAtWork work;
   work.desk.main.P_Dst_Show.Caption = "  N  -  O  : 02.90 Angs ";

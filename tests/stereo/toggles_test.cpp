@@ -303,5 +303,28 @@ TEST_F(Toggles, RedGreenGivesColourAndModeBackExactly) {
   EXPECT_EQ(desk.colours.ColourByElement, 1);
 }
 
+TEST_F(Toggles, RedGreenOffInATraceShowsTheAtomsUntilTheNextRepaint) {
+  SelectRow(desk, desk.main.Pro_Lst, 1);  // a helix: its trace is in one colour, 2 pixels wide
+  Click(desk, desk.main.D_Ca);
+  const auto trace = desk.main.Picture1.Image()->Strokes;
+  Click(desk, desk.main.R_G_Stereo);
+
+  Click(desk, desk.main.R_G_Stereo);
+
+  EXPECT_EQ(desk.drawing.DrawFamily, 1);
+  bool nitrogen = false;
+  for (const Stroke& stroke : desk.main.Picture1.Image()->Strokes) {
+    EXPECT_EQ(stroke.Width, 1);
+    nitrogen |= stroke.Ink == Rgb(60, 60, 240);
+  }
+  EXPECT_TRUE(nitrogen);
+
+  StepBar(desk, desk.main.X_TRANS, 5);
+  const auto& after = desk.main.Picture1.Image()->Strokes;
+  ASSERT_EQ(after.size(), trace.size());
+  EXPECT_EQ(after.front().Width, 2);
+  EXPECT_EQ(after.front().Ink, kPalette7);
+}
+
 }  // namespace
 }  // namespace orvane
