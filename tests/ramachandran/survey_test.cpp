@@ -50,6 +50,44 @@ TEST_F(SurveyTest, OfTheSheetsPlotsEveryRowButTheLast) {
   EXPECT_EQ(antiparallel[0] + antiparallel[1] + antiparallel[2] + antiparallel[3], 19U);
 }
 
+TEST_F(SurveyTest, AStepThatMeetsAnAlphaCarbonAfterAGlycineIsUsedAsItIs) {
+  // The seventh residue of the parallel sheet has four atoms, 31 to 34. So from its alpha carbon 32
+  // the step of four leads to atom 36, an alpha carbon where an N is looked for, and from 36 back
+  // to 32, where a C is looked for. They are rows 6 and 7.
+  Survey(kPbs);
+  const Molecule& atoms = desk.molecule;
+  ASSERT_EQ(ShortName(atoms.AtomName[32]), "CA");
+  ASSERT_EQ(ShortName(atoms.AtomName[36]), "CA");
+
+  // The acute angle between the planes a, b, c and b, c, d, which is all that is left of a torsion
+  // without quadrants.
+  const auto acute = [&](int a, int b, int c, int d) {
+    const auto to = [&](int from, int end) {
+      return Point{atoms.AtomX[end] - atoms.AtomX[from], atoms.AtomY[end] - atoms.AtomY[from],
+                   atoms.AtomZ[end] - atoms.AtomZ[from]};
+    };
+    const auto cross = [](Point p, Point q) {
+      return Point{p.Y * q.Z - p.Z * q.Y, p.Z * q.X - p.X * q.Z, p.X * q.Y - p.Y * q.X};
+    };
+    const auto dot = [](Point p, Point q) { return p.X * q.X + p.Y * q.Y + p.Z * q.Z; };
+    const Point m = cross(to(a, b), to(b, c)), n = cross(to(b, c), to(c, d));
+    const double degree = std::acos(-1.0) / 180;
+    return std::acos(std::fabs(dot(m, n)) / std::sqrt(dot(m, m) * dot(n, n))) / degree;
+  };
+  // A row holds its place in the area; back from there to its angle.
+  const auto& survey = desk.survey;
+  const double half_width = desk.plot.Area[0].InnerWidth() / 2;
+  const double half_height = desk.plot.Area[0].InnerHeight() / 2;
+  const double psi =
+      (survey.PsiList[6] - half_height) / (survey.PlotScale * half_height) + survey.PsiMid;
+  const double phi =
+      (survey.PhiList[7] - half_width) / (survey.PlotScale * half_width) + survey.PhiMid;
+
+  // 57.29588 degrees to the radian instead of 57.29578 are 2 parts in a million.
+  EXPECT_NEAR(psi, 180 - acute(31, 32, 33, 36), 0.001);
+  EXPECT_NEAR(phi, acute(32, 35, 36, 37) - 180, 0.001);
+}
+
 // The torsions as the program shows them: -57 comes out as -123, since the arctangent knows no
 // quadrant, and -47 as -133; -119 and +113 stand as they are.
 TEST_F(SurveyTest, ShowsTheHelixNearItsTorsions) {
