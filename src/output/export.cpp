@@ -101,6 +101,11 @@ void S_Gif_Click(Orvane_Desk& desk) {
   WritePicture(desk, kGif, name, recording);
 }
 
+void ReportRefusedName(Orvane_Desk& desk, std::string_view name) {
+  desk.main.MousePointer = kPointerDefault;
+  desk.platform.MessageBox("'" + std::string(name) + "' not accepted as a file name, try again");
+}
+
 void P_Sterio_Click(Orvane_Desk& desk) {
   desk.platform.Wait(0);
   desk.platform.SavePicture(

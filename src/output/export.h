@@ -12,6 +12,10 @@ void S_JPG_Click(Orvane_Desk& desk);  // ends a recording's state first
 // frames reuse it.
 void S_Gif_Click(Orvane_Desk& desk);
 
+// Gives the pointer back and tells that a name was not taken. Reached from nowhere: a save command
+// would ask for it only once its work is done, so a save that fails ends in its own failure.
+void ReportRefusedName(Orvane_Desk& desk, std::string_view name);
+
 // Writes the pair of views as test.gif, unasked; each click over the same file.
 void P_Sterio_Click(Orvane_Desk& desk);
 

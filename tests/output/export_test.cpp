@@ -76,6 +76,20 @@ TEST_F(Export, ASaveThatFailsShowsTheBoxAndGivesThePointerBack) {
   EXPECT_EQ(desk.main.MousePointer, kPointerDefault);
 }
 
+TEST_F(Export, ARefusedNameIsQuotedInItsMessageWhichNoSaveReaches) {
+  desk.main.MousePointer = kPointerHourglass;
+  ReportRefusedName(desk, "abc");
+  EXPECT_EQ(platform.Effects, Lines{"message 'abc' not accepted as a file name, try again"});
+  EXPECT_EQ(desk.main.MousePointer, kPointerDefault);
+
+  platform.SaveFails = "the disk is full";
+  for (Control* entry : {&desk.main.S_bmp, &desk.main.S_JPG, &desk.main.S_Gif}) {
+    for (const std::string& effect : Save(*entry, "abc")) {
+      EXPECT_FALSE(effect.starts_with("message ")) << effect;
+    }
+  }
+}
+
 TEST_F(Export, ANameWithASeparatorIsRefusedInPlainWords) {
   for (const char* name : {"a/b", "/x", "..\\", "/"}) {
     const Lines effects = Save(desk.main.S_bmp, name);
