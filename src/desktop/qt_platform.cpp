@@ -6,6 +6,8 @@
 #include <QMessageBox>
 #include <QThread>
 
+#include "desktop/picture_files.h"
+#include "desktop/printed_page.h"
 #include "runtime/failure.h"
 
 namespace orvane {
@@ -76,11 +78,11 @@ void QtPlatform::EndProgram() {
   QCoreApplication::exit(0);
 }
 
-void QtPlatform::SavePicture(const SaveRequest&) {
-  FailPlatform("picture files cannot be written yet");
+void QtPlatform::SavePicture(const SaveRequest& request) {
+  SavePictureFile(*skin, request, PictureFolder(ProgramFolder()));
 }
 
-bool QtPlatform::PrintWindow(Window&) { return false; }
+bool QtPlatform::PrintWindow(Window& page) { return PrintOnPaper(*skin, page); }
 
 std::string QtPlatform::ProgramFolder() {
   return QCoreApplication::applicationDirPath().toStdString();

@@ -9,6 +9,8 @@
 
 namespace orvane {
 
+class Skin;
+
 class QtPlatform : public Platform {
  public:
   void Beep() override;
@@ -29,6 +31,7 @@ class QtPlatform : public Platform {
   bool SoundIsOpen() override;
   int SoundLength() override;
 
+  Skin* skin = nullptr;                        // shows what is saved and printed
   bool BoxIsUp() const { return boxes_ > 0; }  // meanwhile no timer ticks
 
  private:

@@ -14,6 +14,7 @@ constexpr int kBeat = 8;  // milliseconds; no screen in a classroom shows more p
 }  // namespace
 
 Skin::Skin(Orvane_Desk& of, QtPlatform& outside) : desk(of), platform(outside) {
+  platform.skin = this;
   beat_.setSingleShot(true);
   beat_.setTimerType(Qt::PreciseTimer);
   QObject::connect(&beat_, &QTimer::timeout, &beat_, [this] { RepaintNow(); });
@@ -26,6 +27,7 @@ Skin::Skin(Orvane_Desk& of, QtPlatform& outside) : desk(of), platform(outside) {
 }
 
 Skin::~Skin() {
+  platform.skin = nullptr;
   for (Window* window : desk.windows) window->Watcher = nullptr;
 }
 

@@ -1,6 +1,7 @@
 // The main window on a screen, its boxes answered by a list instead of a user.
 #pragma once
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,6 +19,8 @@ namespace orvane {
 class QuietPlatform : public QtPlatform {
  public:
   std::vector<std::string> Effects;
+  std::deque<std::string> Answers;  // replies to input boxes; with none left: cancelled
+  std::string Folder;               // stands for the program's, where it is not empty
 
   void Beep() override { Effects.emplace_back("beep"); }
   void MessageBox(std::string_view text) override { Keep("message ", text); }
@@ -25,7 +28,13 @@ class QuietPlatform : public QtPlatform {
   void FailureBox(std::string_view text) override { Keep("failure ", text); }
   std::string InputBox(std::string_view prompt, std::string_view) override {
     Keep("ask ", prompt);
-    return "";
+    if (Answers.empty()) return "";
+    std::string answer = Answers.front();
+    Answers.pop_front();
+    return answer;
+  }
+  std::string ProgramFolder() override {
+    return Folder.empty() ? QtPlatform::ProgramFolder() : Folder;
   }
   void EndProgram() override { Effects.emplace_back("end"); }
 

@@ -1,0 +1,24 @@
+// Windows on paper: the printed page laid out again at the printer's density, or another window as
+// it stands.
+#pragma once
+
+#include <QPainter>
+
+namespace orvane {
+
+struct PrintPage;
+class Skin;
+class Window;
+
+// Draws the page's visible controls at their places, as wide as `paper` (in the painter's pixels,
+// `dots` to an inch) allows, in the middle across and at its top.
+void DrawPrintPage(QPainter& painter, const QRectF& paper, int dots, Skin& skin, PrintPage& page);
+
+// Any other window, as its widgets paint it: laid out once more, unseen, as large as the paper
+// asks.
+void DrawWindow(QPainter& painter, const QRectF& paper, int dots, Skin& skin, Window& window);
+
+// To the system's default printer. False: there is none, or it does not take the page.
+bool PrintOnPaper(Skin& skin, Window& window);
+
+}  // namespace orvane
