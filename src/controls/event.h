@@ -16,6 +16,7 @@ enum class EventKind {
   Scroll,   // the thumb of a bar moves under the pointer
   Tick,     // the interval of a timer is over
   Failed,   // an operation that began at this control ended in a failure
+  Close,    // the user closes the window by its frame
   Resize,   // the window has another size; its place and state are set before
 };
 

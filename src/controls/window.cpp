@@ -9,6 +9,7 @@ Window::Window(std::span<const ControlRow> table, std::string_view prefix)
       Prefix(prefix) {}
 
 void Window::Show() {
+  WasShown = true;
   Visible = true;
   BringToFront();
 }

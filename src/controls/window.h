@@ -29,6 +29,7 @@ class Window : public Control {
 
   Watched<int, Aspect::Pointer> MousePointer;
   WindowState State = WindowState::Normal;  // as the last resize left it
+  bool WasShown = false;                    // at least once, by Show
   const std::span<const ControlRow> Table;
   const std::string Prefix;
   std::vector<Control*> Controls;  // in the order in which they stack, lowest first

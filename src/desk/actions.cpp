@@ -109,6 +109,21 @@ void Resize(Orvane_Desk& desk, Window& window, Place now, WindowState state) {
   RunToItsEnd(desk, window, [&] { window.Raise({.Kind = EventKind::Resize}); });
 }
 
+void CloseWindow(Orvane_Desk& desk, Window& window) {
+  RunToItsEnd(desk, window, [&] { window.Raise({.Kind = EventKind::Close}); });
+}
+
+void OpenFolder(Orvane_Desk& desk, FileList& list, std::string_view path) {
+  if (!list.IsOpenToUser()) return;
+  list.Path = std::string(path);
+  RunToItsEnd(desk, list, [&] { list.Raise({.Kind = EventKind::Change}); });
+}
+
+void ChooseFile(Orvane_Desk& desk, FileList& list, std::string_view name) {
+  (void)desk;
+  if (list.IsOpenToUser()) list.FileName = std::string(name);
+}
+
 void Tick(Orvane_Desk& desk, Timer& timer, Reach reach) {
   if (reach == Reach::AsUser && !timer.Enabled) return;
   RunToItsEnd(desk, timer, [&] { timer.Raise({.Kind = EventKind::Tick}); });

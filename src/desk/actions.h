@@ -38,6 +38,13 @@ void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach = R
 // The user or the screen has given a window another size; it is at `now`.
 void Resize(Orvane_Desk& desk, Window& window, Place now, WindowState state);
 
+// The user closes a window by its frame. What becomes of it is the handler's to say.
+void CloseWindow(Orvane_Desk& desk, Window& window);
+
+// The lists of the music chooser: a folder to be listed, and the file that is chosen in one.
+void OpenFolder(Orvane_Desk& desk, FileList& list, std::string_view path);
+void ChooseFile(Orvane_Desk& desk, FileList& list, std::string_view name);
+
 // One tick of a timer, if it is enabled. No user's action: it comes with its window hidden, too.
 void Tick(Orvane_Desk& desk, Timer& timer, Reach reach = Reach::AsUser);
 

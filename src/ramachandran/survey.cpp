@@ -126,4 +126,6 @@ void ShowRamachandran(Orvane_Desk& desk) {
   desk.stereo.SplitViewOn = 2;
 }
 
+void Ramachandran_Close(Orvane_Desk& desk) { desk.plot.Hide(); }
+
 }  // namespace orvane

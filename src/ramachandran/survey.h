@@ -17,4 +17,7 @@ void TorsionSurvey(Orvane_Desk& desk);
 // plot window is the subject of printing from here on.
 void ShowRamachandran(Orvane_Desk& desk);
 
+// Closed by its frame the plot window only hides, and can be shown again.
+void Ramachandran_Close(Orvane_Desk& desk);
+
 }  // namespace orvane

@@ -99,7 +99,6 @@ void FillInformationPictures(Orvane_Desk& desk) {
   desk.front.Image1[1].SetPicture(dna.front());
   desk.content.Image1[0].SetPicture(dna.front());
   desk.content.Image1[1].SetPicture(protein.front());
-  desk.author.Image1.SetPicture(dna.front());
 }
 
 }  // namespace orvane

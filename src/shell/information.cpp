@@ -29,6 +29,13 @@ void Content_Get_in_Click(Orvane_Desk& desk) {
   desk.main.Show();
 }
 
+void EndProgram(Orvane_Desk& desk) { desk.platform.EndProgram(); }
+
+void Content_Close(Orvane_Desk& desk) {
+  if (!desk.main.WasShown) return EndProgram(desk);
+  Content_Get_in_Click(desk);
+}
+
 void Author_Get_in_Click(Orvane_Desk& desk) {
   desk.author.Hide();
   if (desk.shell.FromFrontAuthor != 0) {

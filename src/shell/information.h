@@ -13,6 +13,11 @@ void Author_Get_in_Click(Orvane_Desk& desk);   // back to where it was opened fr
 
 void WatN_Click(Orvane_Desk& desk);
 void Cprt_Click(Orvane_Desk& desk);
+// Closed by its frame: no window may be left behind that nobody can see. Before the desk was ever
+// reached, closing the way to it ends the program; later the overview goes back like Get_in.
+void Content_Close(Orvane_Desk& desk);
+void EndProgram(Orvane_Desk& desk);
+
 // Ends the program; nothing is asked and nothing is kept.
 void ExitEntry_Click(Orvane_Desk& desk);
 

@@ -64,6 +64,16 @@ void StMsc_Click(Orvane_Desk& desk) {
   desk.platform.SoundClose();
 }
 
+void Drive1_Change(Orvane_Desk& desk) {
+  desk.main.Dir1.Path = desk.main.Drive1.Path.Get();
+  Dir1_Change(desk);
+}
+
+void Dir1_Change(Orvane_Desk& desk) {
+  desk.main.File1.FileName = "";
+  desk.main.File1.Path = desk.main.Dir1.Path.Get();
+}
+
 void File1_DblClick(Orvane_Desk& desk) {
   desk.shell.SoundPath = WithSeparator(desk.main.File1.Path) + desk.main.File1.FileName.Get();
   PlayWave(desk);

@@ -146,6 +146,10 @@ constexpr Wire kWires[] = {
     {"Orvane_Front.Author", Click, Front_Author_Click},
     {"Content.Get_in",      Click, Content_Get_in_Click},
     {"Author_frm.Get_in",   Click, Author_Get_in_Click},
+    {"Orvane_Desk",         Close, EndProgram},
+    {"Orvane_Front",        Close, EndProgram},
+    {"Content",             Close, Content_Close},
+    {"Author_frm",          Close, Author_Get_in_Click},
     {"PMSC1",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 1); }},
     {"PMSC2",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 2); }},
     {"PMSC3",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 3); }},
@@ -157,6 +161,8 @@ constexpr Wire kWires[] = {
     {"PMSC9",      Click,   [](Orvane_Desk& desk) { PMSC_Click(desk, 9); }},
     {"OpMfL",      Click,   OpMfL_Click},
     {"StMsc",      Click,   StMsc_Click},
+    {"Drive1",     Change,  Drive1_Change},
+    {"Dir1",       Change,  Dir1_Change},
     {"File1",      DoubleClick, File1_DblClick},
 
     // stereo
@@ -169,6 +175,7 @@ constexpr Wire kWires[] = {
     {"RCDP",          Click,   ShowRamachandran},
     {"Ramachandran.Area",     Move, Area_MouseMove},
     {"Ramachandran.RamPlt_H", Move, RamPlt_H_MouseMove},
+    {"Ramachandran",          Close, Ramachandran_Close},
 
     // output
     {"P_Sterio",      Click,   P_Sterio_Click},

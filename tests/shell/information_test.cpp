@@ -49,6 +49,37 @@ TEST_F(Starting, TheAuthorWindowIsASideTripFromTheSplash) {
   EXPECT_FALSE(desk.main.Visible);
 }
 
+TEST_F(Starting, ClosingTheSplashOrTheFirstOverviewEndsTheProgram) {
+  CloseWindow(desk, desk.front);
+  EXPECT_EQ(platform.Effects, std::vector<std::string>{"end"});
+  platform.Effects.clear();
+
+  Click(desk, desk.front.Get_in);
+  CloseWindow(desk, desk.content);
+  EXPECT_EQ(platform.Effects, std::vector<std::string>{"end"});
+}
+
+TEST_F(Starting, OnceTheDeskWasReachedClosingTheOverviewLeadsBackToIt) {
+  Click(desk, desk.front.Get_in);
+  Click(desk, desk.content.Get_in);
+  Click(desk, desk.main.WatN);
+
+  CloseWindow(desk, desk.content);
+
+  EXPECT_TRUE(platform.Effects.empty());
+  EXPECT_FALSE(desk.content.Visible);
+  EXPECT_TRUE(desk.main.Visible);
+}
+
+TEST_F(Starting, ClosingThePlotOnlyHidesIt) {
+  desk.plot.Show();
+
+  CloseWindow(desk, desk.plot);
+
+  EXPECT_FALSE(desk.plot.Visible);
+  EXPECT_TRUE(platform.Effects.empty());
+}
+
 TEST_F(Starting, FromTheMenuTheAuthorWindowLeadsBackToTheDesk) {
   Click(desk, desk.front.Author);  // the flag is set here and taken back at the way in
   Click(desk, desk.author.Get_in);

@@ -38,6 +38,26 @@ TEST_F(Sound, EveryEntryHasItsTune) {
   }
 }
 
+TEST_F(Sound, ADriveIsListedInTheOtherTwoAndAFolderInTheFilesOnly) {
+  Click(desk, desk.main.OpMfL, Reach::Forced);
+
+  OpenFolder(desk, desk.main.Drive1, "/media/stick");
+  EXPECT_EQ(desk.main.Dir1.Path.Get(), "/media/stick");
+  EXPECT_EQ(desk.main.File1.Path.Get(), "/media/stick");
+
+  ChooseFile(desk, desk.main.File1, "a.wav");
+  OpenFolder(desk, desk.main.Dir1, "/media/stick/tunes");
+  EXPECT_EQ(desk.main.Drive1.Path.Get(), "/media/stick");
+  EXPECT_EQ(desk.main.File1.Path.Get(), "/media/stick/tunes");
+  EXPECT_EQ(desk.main.File1.FileName.Get(), "");  // it was a file of another folder
+}
+
+TEST_F(Sound, NoFileIsChosenWhileTheChooserIsHidden) {
+  ChooseFile(desk, desk.main.File1, "a.wav");
+
+  EXPECT_EQ(desk.main.File1.FileName.Get(), "");
+}
+
 TEST_F(Sound, ASecondTuneClosesTheFirst) {
   Click(desk, desk.main.PMSC1, Reach::Forced);
   platform.Effects.clear();
