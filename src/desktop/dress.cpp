@@ -3,6 +3,7 @@
 #include <array>
 
 #include "controls/window.h"
+#include "desktop/information_dress.h"
 
 namespace orvane {
 namespace {
@@ -52,6 +53,10 @@ const Dress& DressOf(const Control& control) {
   const std::string name = control.Owner.Prefix + control.Name;
   for (const Dress& dress : kDresses) {
     if (dress.Control == name) return dress;
+  }
+  const std::string full_name = control.FullName();
+  for (const Dress& dress : InformationDresses()) {
+    if (dress.Control == full_name || dress.Control == name) return dress;
   }
   switch (control.Row.Kind) {
     case ControlKind::Panel:

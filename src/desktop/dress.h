@@ -20,10 +20,15 @@ enum class Cut {
   Tab,      // a tab at the desk's edge, with its caption in a flyout
   GoOn,     // round, with an arrow
   Icon,     // the program's
+  Link,     // underlined
+  Reading,  // a text broken into lines
+  Greek,    // a letter over the gap of a reading text
+  RoundPicture,
+  Figure,  // a person, drawn
 };
 
 struct Dress {
-  std::string_view Control;  // name with the window's prefix, without index; or "" at the end
+  std::string_view Control;  // name with the window's prefix; without index, for all of an array
   Cut Shape = Cut::Plain;
   QRgb Face = palette::kNone;
   QRgb Edge = palette::kNone;

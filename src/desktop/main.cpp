@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "desktop/icon.h"
 #include "desktop/look_style.h"
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
@@ -13,12 +14,11 @@ int main(int count, char** words) {
   QApplication::setApplicationName(QStringLiteral("Orvane"));
   QApplication::setQuitOnLastWindowClosed(false);
   orvane::DressApplication(application);
+  QApplication::setWindowIcon(orvane::ProgramIcon());
 
   orvane::QtPlatform platform;
   const auto desk = std::make_unique<orvane::Orvane_Desk>(platform);
   orvane::Skin skin(*desk, platform);
-  // The start chain begins here; until its windows are drawn, the desk itself is the first.
-  desk->front.Hide();
-  desk->main.Show();
+  skin.ShowWindows();
   return QApplication::exec();
 }

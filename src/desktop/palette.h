@@ -38,6 +38,7 @@ inline constexpr QRgb kAccentOnDark = 0xFF5CC8D7;
 
 inline constexpr QRgb kResult = 0xFFF8FAFB;
 inline constexpr QRgb kRedMark = 0xFFC62828, kGreenMark = 0xFF2E7D32, kBlueMark = 0xFF1E4FBF;
+inline constexpr QRgb kBlack = 0xFF000000;
 inline constexpr QRgb kNone = 0x00000000;
 
 }  // namespace orvane::palette

@@ -46,12 +46,16 @@ void PictureWidget::RasterOnce() {
                          size.height(), static_cast<int>(pixels_.bytesPerLine() / 4));
 }
 
-void PictureWidget::paintEvent(QPaintEvent*) {
+const QImage& PictureWidget::Pixels() {
   if (stale_) RasterOnce();
+  return pixels_;
+}
+
+void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect face = EnterPixels(painter);
   painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.drawImage(face.topLeft(), pixels_);
+  painter.drawImage(face.topLeft(), Pixels());
 }
 
 void PictureWidget::mousePressEvent(QMouseEvent* event) {

@@ -22,6 +22,8 @@ class PictureWidget : public Viewed<QWidget> {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
+  const QImage& Pixels();  // of the picture as it is now
+
  private:
   std::shared_ptr<const Picture> Now() const;
   void RasterOnce();

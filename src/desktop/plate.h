@@ -26,14 +26,14 @@ class Plate : public Viewed<QWidget> {
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 
+  const Dress& dress_;
+  bool held_ = false;
+
  private:
   void PaintBevel(QPainter& painter, const QRect& face);
   void PaintSwatch(QPainter& painter, const QRect& face);
   void PaintPlain(QPainter& painter, const QRect& face);
   void PaintCaption(QPainter& painter, const QRect& face, QRgb ink, Type letters);
-
-  const Dress& dress_;
-  bool held_ = false;
 };
 
 // Left, right and middle button, as events count them; the sum of those held for a move.

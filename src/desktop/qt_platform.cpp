@@ -88,12 +88,11 @@ std::string QtPlatform::ProgramFolder() {
   return QCoreApplication::applicationDirPath().toStdString();
 }
 
-int QtPlatform::SoundOpen(const std::string&) { FailPlatform("sound files cannot be played yet"); }
-
-void QtPlatform::SoundPlay() {}
-void QtPlatform::SoundStop() {}
-void QtPlatform::SoundClose() {}
-bool QtPlatform::SoundIsOpen() { return false; }
-int QtPlatform::SoundLength() { return 0; }
+int QtPlatform::SoundOpen(const std::string& path) { return sound_.Open(path); }
+void QtPlatform::SoundPlay() { sound_.Play(); }
+void QtPlatform::SoundStop() { sound_.Stop(); }
+void QtPlatform::SoundClose() { sound_.Close(); }
+bool QtPlatform::SoundIsOpen() { return sound_.IsOpen(); }
+int QtPlatform::SoundLength() { return sound_.Length(); }
 
 }  // namespace orvane

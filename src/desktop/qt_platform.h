@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "controls/platform.h"
+#include "desktop/sound_player.h"
 
 namespace orvane {
 
@@ -35,6 +36,7 @@ class QtPlatform : public Platform {
   bool BoxIsUp() const { return boxes_ > 0; }  // meanwhile no timer ticks
 
  private:
+  SoundPlayer sound_;
   int boxes_ = 0;
   bool ended_ = false;
 };

@@ -39,6 +39,12 @@ void Skin::Changed(Control& control, Aspect aspect) {
   if (window != windows_.end()) window->second->Take(control, aspect);
 }
 
+void Skin::ShowWindows() {
+  for (Window* window : desk.windows) {
+    if (window->Visible) Changed(*window, Aspect::Visible);
+  }
+}
+
 WindowWidget& Skin::WindowOf(Window& window) {
   std::unique_ptr<WindowWidget>& widget = windows_[&window];
   if (widget == nullptr) widget = std::make_unique<WindowWidget>(*this, window);

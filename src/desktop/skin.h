@@ -30,6 +30,9 @@ class Skin : public ControlWatcher {
 
   void Changed(Control& control, Aspect aspect) override;
 
+  // Shows what the desk has on view from its start-up; the windows come and go by themselves then.
+  void ShowWindows();
+
   // A window is made when it is first shown or asked for.
   WindowWidget& WindowOf(Window& window);
   QWidget* WidgetOf(const Control& control);

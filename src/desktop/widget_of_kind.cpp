@@ -4,6 +4,7 @@
 #include "controls/scroll_bar.h"
 #include "desktop/bar_widget.h"
 #include "desktop/dress.h"
+#include "desktop/further_widgets.h"
 #include "desktop/list_widget.h"
 #include "desktop/picture_widget.h"
 #include "desktop/plate.h"
@@ -13,6 +14,7 @@
 namespace orvane {
 
 ControlView* MakeView(WindowWidget& window, Control& control, QWidget& parent) {
+  if (ControlView* own = MakeFurtherView(window, control, parent)) return own;
   switch (control.Row.Kind) {
     case ControlKind::Timer:
     case ControlKind::MenuEntry:

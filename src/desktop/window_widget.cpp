@@ -17,6 +17,7 @@
 #include "desktop/palette.h"
 #include "desktop/skin.h"
 #include "desktop/widget_of_kind.h"
+#include "desktop/window_dress.h"
 
 namespace orvane {
 namespace {
@@ -45,7 +46,14 @@ Qt::CursorShape ShapeOf(int pointer) {
 Ground::Ground(WindowWidget& window) : QWidget(&window), window_(window) { setMouseTracking(true); }
 
 void Ground::paintEvent(QPaintEvent*) {
-  QPainter(this).fillRect(rect(), QColor::fromRgba(palette::kGround));
+  QPainter painter(this);
+  const WindowDress& dress = WindowDressOf(window_.shown.Name);
+  painter.fillRect(rect(), QColor::fromRgba(dress.Ground));
+  if (dress.Band > 0) {
+    EnterDevicePixels(painter, window_.scale, {{}, {}});
+    const QRect all = window_.scale.Device({0, 0, window_.PlanWidth(), dress.Band});
+    painter.fillRect(all, QColor::fromRgba(palette::kBezel));
+  }
 }
 
 void Ground::mouseMoveEvent(QMouseEvent*) { window_.PointerOver(window_.shown); }
@@ -56,6 +64,8 @@ WindowWidget::WindowWidget(Skin& of, Window& window) : skin(of), shown(window) {
   setWindowTitle(QString::fromStdString(shown.Caption));
   setMinimumSize(PlanSize(shown));
   resize(PlanSize(shown));
+  // Only a window that answers to another size can get one.
+  if (!shown.Handles(EventKind::Resize)) setFixedSize(PlanSize(shown));
   desk_ = new Ground(*this);
   flyout = new Flyout(*this, *desk_);
   MakeWidgets();
@@ -153,10 +163,7 @@ void WindowWidget::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   if (event->spontaneous()) return;
   LayAll();
-  if (StateOf(*this) == WindowState::Normal) {
-    move(screen()->availableGeometry().center() - frameGeometry().center() +
-         frameGeometry().topLeft());
-  }
+  if (StateOf(*this) == WindowState::Normal) StandOnScreen();
   connect(windowHandle(), &QWindow::screenChanged, this, [this] { LayAll(); });
 }
 
@@ -165,9 +172,22 @@ void WindowWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange) LayAll();
 }
 
+// In the middle of the screen, unless the window has a place of its own.
+void WindowWidget::StandOnScreen() {
+  const QRect area = screen()->availableGeometry();
+  const Place own = shown.Row.At;
+  if (own.Left == 0 && own.Top == 0) {
+    move(area.center() - frameGeometry().center() + frameGeometry().topLeft());
+  } else if (!stood_) {
+    move(area.topLeft() + QPoint(own.Left, own.Top) / TwipsPerPixel);
+  }
+  stood_ = true;
+}
+
+// What closing does is the logic's to say; what it hides goes by its watcher.
 void WindowWidget::closeEvent(QCloseEvent* event) {
-  event->accept();
-  skin.platform.EndProgram();
+  event->ignore();
+  CloseWindow(skin.desk, shown);
 }
 
 void WindowWidget::PointerOver(Control& control) {

@@ -66,8 +66,10 @@ class WindowWidget : public QWidget {
   void MakeWidgets();
   void TakeWindow(Aspect aspect);
   void SetTabOrder();
+  void StandOnScreen();
 
   Ground* desk_;
+  bool stood_ = false;  // has been on the screen before
   std::unordered_map<const Control*, ControlView*> views_;
   const Control* under_pointer_ = nullptr;
   Control* panel_from_ = nullptr;  // who had the keyboard when a floating panel was opened

@@ -1,0 +1,61 @@
+#include "desktop/further_widgets.h"
+
+#include "controls/kinds.h"
+#include "desktop/dress.h"
+#include "desktop/file_list_widget.h"
+#include "desktop/go_on_widget.h"
+#include "desktop/line_widget.h"
+#include "desktop/link_widget.h"
+#include "desktop/map_area.h"
+#include "desktop/plot_frame.h"
+#include "desktop/plot_label.h"
+#include "desktop/reading_text.h"
+#include "desktop/still_pictures.h"
+
+namespace orvane {
+namespace {
+
+ControlView* MakePlotView(WindowWidget& window, Control& control, QWidget& parent) {
+  switch (control.Row.Kind) {
+    case ControlKind::Frame:
+      return new PlotFrame(window, control, parent);
+    case ControlKind::PictureBox:
+      return new MapAreaWidget(window, control, parent);
+    case ControlKind::Label:
+    case ControlKind::Panel:
+      return new PlotLabel(window, control, parent);
+    case ControlKind::Line:
+      return new LineWidget(window, control, parent);
+    case ControlKind::ImageBox:
+      return new IconWidget(window, control, parent);
+    default:
+      return nullptr;
+  }
+}
+
+}  // namespace
+
+ControlView* MakeFurtherView(WindowWidget& window, Control& control, QWidget& parent) {
+  if (control.Owner.Name == "Ramachandran") return MakePlotView(window, control, parent);
+  if (auto* list = dynamic_cast<FileList*>(&control)) return MakeFileList(window, *list, parent);
+  switch (DressOf(control).Shape) {
+    case Cut::GoOn:
+      return new GoOnWidget(window, control, parent);
+    case Cut::Icon:
+      return new IconWidget(window, control, parent);
+    case Cut::Link:
+      return new LinkWidget(window, control, parent);
+    case Cut::Reading:
+      return new ReadingText(window, control, parent);
+    case Cut::Greek:
+      return new GreekLetter(window, control, parent);
+    case Cut::RoundPicture:
+      return new RoundPicture(window, control, parent);
+    case Cut::Figure:
+      return new FigureWidget(window, control, parent);
+    default:
+      return nullptr;
+  }
+}
+
+}  // namespace orvane

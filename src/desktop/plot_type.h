@@ -1,0 +1,15 @@
+// The type of the plot window: Liberation Serif and Sans, embedded. Greek letters come as the
+// letters of an old symbol type, "a" for alpha.
+#pragma once
+
+#include <QFont>
+#include <QString>
+
+namespace orvane {
+
+enum class PlotFamily { Serif, BoldSerif, Sans, Symbol };
+
+// At 100 per cent, like all type of the windows.
+QFont PlotFont(PlotFamily family, int size, const QString& text);
+
+}  // namespace orvane

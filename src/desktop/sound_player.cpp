@@ -1,0 +1,76 @@
+#include "desktop/sound_player.h"
+
+#include <QAudioOutput>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QMediaPlayer>
+#include <QTimer>
+#include <QUrl>
+
+namespace orvane {
+namespace {
+
+constexpr int kPatience = 3000;  // milliseconds until a decoder must have answered
+
+bool IsLoaded(QMediaPlayer::MediaStatus status) {
+  return status == QMediaPlayer::LoadedMedia || status == QMediaPlayer::BufferedMedia ||
+         status == QMediaPlayer::BufferingMedia || status == QMediaPlayer::EndOfMedia;
+}
+
+}  // namespace
+
+SoundPlayer::SoundPlayer() = default;
+SoundPlayer::~SoundPlayer() = default;
+
+int SoundPlayer::Open(const std::string& path) {
+  Close();
+  const QFileInfo file(QString::fromStdString(path));
+  if (!file.isFile() || !file.isReadable()) return kSoundNotThere;
+  if (file.size() == 0) return kSoundNotSound;
+  player_ = std::make_unique<QMediaPlayer>();
+  output_ = std::make_unique<QAudioOutput>();
+  player_->setAudioOutput(output_.get());
+  player_->setSource(QUrl::fromLocalFile(file.absoluteFilePath()));
+  const int answer = WaitForAnswer();
+  open_ = answer == kSoundOpen;
+  if (!open_) Close();
+  return answer;
+}
+
+// Only the decoder's own events run meanwhile: the user's wait until the command is over.
+int SoundPlayer::WaitForAnswer() {
+  const auto answered = [this] {
+    return IsLoaded(player_->mediaStatus()) || player_->error() != QMediaPlayer::NoError ||
+           player_->mediaStatus() == QMediaPlayer::InvalidMedia;
+  };
+  if (!answered()) {
+    QEventLoop loop;
+    const auto quit_when_answered = [&] {
+      if (answered()) loop.quit();
+    };
+    QObject::connect(player_.get(), &QMediaPlayer::mediaStatusChanged, &loop, quit_when_answered);
+    QObject::connect(player_.get(), &QMediaPlayer::errorChanged, &loop, quit_when_answered);
+    QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+  }
+  if (!answered()) return kSoundNoAnswer;
+  return IsLoaded(player_->mediaStatus()) && player_->hasAudio() ? kSoundOpen : kSoundNotSound;
+}
+
+void SoundPlayer::Play() {
+  if (open_) player_->play();
+}
+
+void SoundPlayer::Stop() {
+  if (open_) player_->stop();
+}
+
+void SoundPlayer::Close() {
+  open_ = false;
+  player_.reset();
+  output_.reset();
+}
+
+int SoundPlayer::Length() const { return open_ ? static_cast<int>(player_->duration()) : 0; }
+
+}  // namespace orvane

@@ -1,0 +1,39 @@
+// Pictures that are no surface: the icon, a picture in a card, a drawn person.
+#pragma once
+
+#include "desktop/dress.h"
+#include "desktop/picture_widget.h"
+#include "desktop/plate.h"
+
+namespace orvane {
+
+class IconWidget : public Plate {
+ public:
+  using Plate::Plate;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// An image box with round corners and an edge.
+class RoundPicture : public PictureWidget {
+ public:
+  RoundPicture(WindowWidget& owner, Control& shown, QWidget& parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const Dress& dress_;
+};
+
+// Head and shoulders on a dark ground.
+class FigureWidget : public Plate {
+ public:
+  using Plate::Plate;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace orvane

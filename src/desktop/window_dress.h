@@ -1,0 +1,18 @@
+// What the controls of a window stand on: its ground, and the dark band of a title.
+#pragma once
+
+#include <string_view>
+
+#include "desktop/palette.h"
+
+namespace orvane {
+
+struct WindowDress {
+  std::string_view Window;
+  QRgb Ground = palette::kGround;
+  int Band = 0;  // twips from the top, dark
+};
+
+const WindowDress& WindowDressOf(std::string_view window);
+
+}  // namespace orvane
