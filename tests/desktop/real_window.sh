@@ -24,6 +24,12 @@ expect_pixel() {  # x y colour, within three seconds
 "$program" &
 child=$!
 trap 'kill "$child" "$screen" 2>/dev/null || true' EXIT
+# The way in: splash, overview, desk. Enter goes on.
+for title in '^Orvane$' "^What's new in OVN$"; do
+  window=$(timeout 30 xdotool search --sync --onlyvisible --name "$title" | head -1)
+  [ -n "$window" ] || fail "no window $title came up"
+  xdotool windowfocus --sync "$window" key Return
+done
 window=$(timeout 30 xdotool search --sync --onlyvisible --name '^Orvane \(OVN\) V3\.0$' | head -1)
 [ -n "$window" ] || fail "no window came up"
 eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=')"
