@@ -28,8 +28,11 @@ QPainterPath PartOfStrand(int strand, double middle, double reach) {
     const double swing = kSwing * std::cos(3 * (turn - std::numbers::pi / 2));
     const double radius = kRing + (strand == 0 ? swing : -swing);
     const QPointF at(kSide / 2 + radius * std::cos(turn), kSide / 2 - radius * std::sin(turn));
-    if (path.isEmpty()) path.moveTo(at);
-    path.lineTo(at);
+    if (path.elementCount() == 0) {
+      path.moveTo(at);
+    } else {
+      path.lineTo(at);
+    }
   }
   return path;
 }

@@ -5,8 +5,8 @@
 namespace orvane {
 namespace {
 
-constexpr double kRoom = 2;       // pixels round the box, for the line's own width
-constexpr double kUpright = 1.5;  // pixels: width of a line along an axis
+constexpr double kRoom = 2;     // pixels round the box, for the line's own width
+constexpr double kUpright = 2;  // pixels: width of a line along an axis
 
 }  // namespace
 

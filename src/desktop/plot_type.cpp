@@ -22,6 +22,7 @@ bool LoadPlotType() {
 
 // The straight phi is missing in the serif type; the windows' own type has it.
 constexpr char16_t kStraightPhi = u'ϕ';
+constexpr double kLent = 0.8;  // of the size: its letters are larger for their size
 
 }  // namespace
 
@@ -32,7 +33,7 @@ QFont PlotFont(PlotFamily family, int size, const QString& text) {
   QFont font(lent                         ? QStringLiteral("Inter")
              : family == PlotFamily::Sans ? QStringLiteral("Liberation Sans")
                                           : QStringLiteral("Liberation Serif"));
-  font.setPixelSize(size);
+  font.setPixelSize(lent ? static_cast<int>(size * kLent) : size);
   font.setBold(family == PlotFamily::BoldSerif);
   font.setHintingPreference(QFont::PreferVerticalHinting);
   return font;

@@ -34,8 +34,8 @@ struct ContentWindow : Window {
   Ornament Line5{*this, "Line5"};
   ImageBox OVN_Icon{*this, "OVN_Icon"};
   Panel WtNew{*this, "WtNew"};
+  ControlArray<Panel, 3> Card{*this, "Card"};  // below what stands on them
   ControlArray<Panel, 5> Text{*this, "Text"};
-  ControlArray<Panel, 3> Card{*this, "Card"};
   Ornament Line2{*this, "Line2"}, Line3{*this, "Line3"}, Line4{*this, "Line4"};
   Panel Greek{*this, "Greek"};  // the letter over the gap of "C  -trace"
   ControlArray<ImageBox, 2> Image1{*this, "Image1"};
