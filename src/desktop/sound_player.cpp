@@ -12,6 +12,13 @@ namespace {
 
 constexpr int kPatience = 3000;  // milliseconds until a decoder must have answered
 
+// Of the toolkit's two decoders one brings all it needs; the other stops the whole program where
+// its own add-ons are not installed.
+void ChooseDecoder() {
+  constexpr const char* kChoice = "QT_MEDIA_BACKEND";
+  if (!qEnvironmentVariableIsSet(kChoice)) qputenv(kChoice, "ffmpeg");
+}
+
 bool IsLoaded(QMediaPlayer::MediaStatus status) {
   return status == QMediaPlayer::LoadedMedia || status == QMediaPlayer::BufferedMedia ||
          status == QMediaPlayer::BufferingMedia || status == QMediaPlayer::EndOfMedia;
@@ -27,6 +34,7 @@ int SoundPlayer::Open(const std::string& path) {
   const QFileInfo file(QString::fromStdString(path));
   if (!file.isFile() || !file.isReadable()) return kSoundNotThere;
   if (file.size() == 0) return kSoundNotSound;
+  ChooseDecoder();
   player_ = std::make_unique<QMediaPlayer>();
   output_ = std::make_unique<QAudioOutput>();
   player_->setAudioOutput(output_.get());
