@@ -20,6 +20,8 @@ void LineWidget::paintEvent(QPaintEvent*) {
   const QColor ink = QColor::fromRgba(along_axis ? palette::kEdge : palette::kInk);
   painter.setPen(QPen(ink, (along_axis ? kUpright : 1) * unit, Qt::SolidLine,
                       along_axis ? Qt::SquareCap : Qt::RoundCap));
+  // An upright line stands beside its place, inside what holds it.
+  if (face.width() == 0) painter.translate(kUpright / 2 * unit, 0);
   painter.drawLine(QPointF(0, face.height()), QPointF(face.width(), 0));
 }
 

@@ -9,6 +9,12 @@ constexpr QRgb kMapEdge = 0xFFA65A5F;
 
 }  // namespace
 
+// Its place may end between two of the toolkit's pixels, and what is not painted is the frame's.
+MapAreaWidget::MapAreaWidget(WindowWidget& owner, Control& shown, QWidget& parent)
+    : PictureWidget(owner, shown, parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent, false);
+}
+
 void MapAreaWidget::paintEvent(QPaintEvent* event) {
   PictureWidget::paintEvent(event);
   QPainter painter(this);

@@ -7,7 +7,7 @@ namespace orvane {
 
 class MapAreaWidget : public PictureWidget {
  public:
-  using PictureWidget::PictureWidget;
+  MapAreaWidget(WindowWidget& owner, Control& shown, QWidget& parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -33,11 +33,11 @@ constexpr auto kLetters = std::to_array<PlotLetters>({
     {.Control = "Collag",     .Size = 12, .Baseline = 9.5},
     // Scale marks, the degree raised behind them.
     {.Control = "Degrs",    .Family = Sans, .Size = 11, .Baseline = 11, .Quiet = true},
-    {.Control = "Degrs(1)", .Family = Sans, .Size = 8, .Baseline = 7, .Quiet = true},
-    {.Control = "Degrs(3)", .Family = Sans, .Size = 8, .Baseline = 7, .Quiet = true},
-    {.Control = "Degrs(5)", .Family = Sans, .Size = 8, .Baseline = 7, .Quiet = true},
-    {.Control = "Degrs(7)", .Family = Sans, .Size = 8, .Baseline = 7, .Quiet = true},
-    {.Control = "Degrs(9)", .Family = Sans, .Size = 8, .Baseline = 7, .Quiet = true},
+    {.Control = "Degrs(1)", .Family = Sans, .Size = 8, .Left = 0.5, .Baseline = 9, .Quiet = true},
+    {.Control = "Degrs(3)", .Family = Sans, .Size = 8, .Left = 0.5, .Baseline = 9, .Quiet = true},
+    {.Control = "Degrs(5)", .Family = Sans, .Size = 8, .Left = 0.5, .Baseline = 9, .Quiet = true},
+    {.Control = "Degrs(7)", .Family = Sans, .Size = 8, .Left = 0.5, .Baseline = 9, .Quiet = true},
+    {.Control = "Degrs(9)", .Family = Sans, .Size = 8, .Left = 0.5, .Baseline = 9, .Quiet = true},
     // Axis names.
     {.Control = "Label5(0)", .Family = Symbol, .Size = 17, .Baseline = 16},
     {.Control = "Label10",   .Size = 13, .Baseline = 13},
