@@ -204,9 +204,9 @@ std::span<const Wire> Wires() { return kWires; }
 void WireControls(Orvane_Desk& desk) {
   for (const Wire& wire : kWires) {
     for (Window* window : desk.windows) {
+      if (wire.Control == window->Name) BindRow(desk, *window, wire);
       if (!wire.Control.starts_with(window->Prefix)) continue;
       const std::string_view name = wire.Control.substr(window->Prefix.size());
-      if (name == window->Name) BindRow(desk, *window, wire);
       for (Control* control : window->Controls) {
         if (control->Name == name) BindRow(desk, *control, wire);
       }
