@@ -81,7 +81,12 @@ done
 # Where black begins and ends on a page: WIDTH HEIGHT LEFT TOP; and the page's own width.
 black_box() {
   convert "$1" -alpha off -fill white +opaque black -bordercolor white -border 1 -trim \
-    -format '%w %h %X %Y' info: | tr -d +
+    -format '%w %h %X %Y\n' info: | tr -d +
+}
+# What stands on the first rows of a page: WIDTH LEFT.
+ink_above() {
+  convert "$1" -crop "x$2+0+0" +repage -alpha off -bordercolor white -border 1 -trim \
+    -format '%w %X\n' info: | tr -d +
 }
 paper=$(identify -format %w "$place/1.png")
 
@@ -92,16 +97,22 @@ middle=$((2 * left - 2 + width - paper))
 [ "$middle" -le 8 ] && [ "$middle" -ge -8 ] || fail "the picture is not in the middle: $middle"
 [ $((width * 100 / paper)) -ge 70 ] || fail "the page is not as wide as the paper: $width of $paper"
 [ $((width * 6600)) -le $((paper * 5400 + 6600)) ] || fail "the page is wider than the paper"
-pdftotext -q "${pages[0]}" - | grep -qF 'N) v2.0: Alpha helix structure (polypeptide)' ||
-  fail "the name is not there as text"
+# Its name begins above its left edge, in letters and not in pixels.
+read -r long begin < <(ink_above "$place/1.png" $((top - 2)))
+[ $((begin - left)) -ge -2 ] && [ $((begin - left)) -le 4 ] || fail "the name begins at $begin"
+[ $((long * 100 / width)) -ge 50 ] || fail "the name is $long wide"
+[ "$(pdffonts "${pages[0]}" 2>/dev/null | wc -l)" -ge 3 ] || fail "the name is no text"
 
 # The pair: from 120 to 6495 twips, 3135 high.
 read -r width height left top < <(black_box "$place/2.png")
 ratio=$((width * 1000 / height))
 [ "$ratio" -ge 2018 ] && [ "$ratio" -le 2049 ] || fail "the pair is $width x $height"
-pdftotext -q "${pages[1]}" - | grep -qxF 'Sterio Pair' || fail "the pair has no heading"
+read -r long begin < <(ink_above "$place/2.png" $((top - 2)))
+middle=$((2 * begin + long - paper))
+[ "$long" -ge 50 ] && [ $((middle * 6600 / paper)) -ge -300 ] && [ $((middle * 6600 / paper)) -le 300 ] ||
+  fail "the pair's heading is $long wide, at $begin"
 
 # The plot's three areas reach over most of the paper's width: the pink of the largest.
-pink=$(convert "$place/3.png" -alpha off -fill white +opaque 'rgb(255,206,206)' \
+pink=$(convert "$place/3.png" -alpha off -fuzz 3% -fill white +opaque 'rgb(255,206,206)' \
   -bordercolor white -border 1 -trim -format %w info:)
 [ $((pink * 100 / paper)) -ge 40 ] || fail "the plot is $pink wide on $paper"

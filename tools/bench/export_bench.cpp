@@ -1,12 +1,12 @@
 // How long a picture takes to leave the program: one frame of the heaviest scene in each format,
 // and a whole recording of a turning structure. Bytes are made, not written: no disk is timed.
-#include <cstring>
 #include <memory>
 
 #include <QBuffer>
 #include <QImage>
 #include <QImageWriter>
 
+#include "canvas.h"
 #include "controls/platform.h"
 #include "desk/actions.h"
 #include "draw/raster.h"
@@ -18,14 +18,6 @@
 namespace orvane::bench {
 namespace {
 
-void Memset(benchmark::State& state) {
-  std::vector<std::uint32_t> words(360 * 360);
-  for (auto unused : state) {
-    std::memset(words.data(), 0x5A, words.size() * sizeof words[0]);
-    benchmark::DoNotOptimize(words.data());
-    benchmark::ClobberMemory();
-  }
-}
 BENCHMARK(Memset);
 
 void ByQt(benchmark::State& state, const char* format, int quality) {
