@@ -11,7 +11,7 @@ constexpr auto kWindows = std::to_array<WindowDress>({
     {"Orvane_Front", kBezel, 0},
     {"Content", kGround, 780},
     {"Author_frm", kGround, 780},
-    {"Ramachandran", kFace, 0},
+    {"Ramachandran", kFace, 0, false},
 });
 constexpr WindowDress kPlainWindow = {"", kGround, 0};
 

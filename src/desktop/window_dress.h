@@ -10,7 +10,8 @@ namespace orvane {
 struct WindowDress {
   std::string_view Window;
   QRgb Ground = palette::kGround;
-  int Band = 0;  // twips from the top, dark
+  int Band = 0;         // twips from the top, dark
+  bool Centred = true;  // comes up in the middle of the screen, and not at its own place
 };
 
 const WindowDress& WindowDressOf(std::string_view window);

@@ -172,11 +172,10 @@ void WindowWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::WindowStateChange) LayAll();
 }
 
-// In the middle of the screen, unless the window has a place of its own.
 void WindowWidget::StandOnScreen() {
   const QRect area = screen()->availableGeometry();
   const Place own = shown.Row.At;
-  if (own.Left == 0 && own.Top == 0) {
+  if (WindowDressOf(shown.Name).Centred) {
     move(area.center() - frameGeometry().center() + frameGeometry().topLeft());
   } else if (!stood_) {
     move(area.topLeft() + QPoint(own.Left, own.Top) / TwipsPerPixel);

@@ -92,6 +92,7 @@ TEST(Reading, NoLineOfTheOverviewIsWiderThanItsBoxAndNoneIsLost) {
 
 TEST(Reading, TheGreekLetterStandsInTheGapBehindTheC) {
   ProgramAtWork program;
+  program.ClickOn(program.desk.front.Get_in);
   WindowWidget& window = program.WindowOf(program.desk.content);
   const auto& text = dynamic_cast<ReadingText&>(program.ViewOf(program.desk.content.Text[2]));
   const QRectF gap = text.Gap();

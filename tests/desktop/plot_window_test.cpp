@@ -21,10 +21,11 @@ struct Map : testing::Test {
     program.WaitFor(plot);
   }
   // The pointer, at pixels of an area.
-  void PointAt(std::size_t area, double x, double y) {
-    QWidget& widget = program.WidgetOf(plot.Area[area]);
+  void PointAt(std::size_t area, double x, double y) { PointAt(plot.Area[area], x, y); }
+  void PointAt(const Control& control, double x, double y) {
+    QWidget& widget = program.WidgetOf(control);
     WindowWidget& window = program.WindowOf(plot);
-    const QPointF face = program.ViewOf(plot.Area[area]).FaceInWidget().topLeft();
+    const QPointF face = program.ViewOf(control).FaceInWidget().topLeft();
     const QPointF at = widget.mapTo(&window, face + QPointF(x, y));
     QMouseEvent move(QEvent::MouseMove, widget.mapFrom(&window, at), at, window.mapToGlobal(at),
                      Qt::NoButton, Qt::NoButton, Qt::NoModifier);
@@ -64,7 +65,7 @@ TEST_F(Map, TheExtendedChainIsInTheLowestLeftCorner) {
   PointAt(1, 0, 138);
   EXPECT_TRUE(Shows(plot.FEC));
 
-  QTest::mouseMove(&program.WidgetOf(plot.RamPlt_H), QPoint(20, 100));
+  PointAt(plot.RamPlt_H, 20, 100);
   EXPECT_FALSE(Shows(plot.FEC));
 }
 
