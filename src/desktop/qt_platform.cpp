@@ -1,7 +1,7 @@
 #include "desktop/qt_platform.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QDateTime>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QThread>
@@ -65,9 +65,9 @@ std::string QtPlatform::InputBox(std::string_view prompt, std::string_view title
 void QtPlatform::LetEventsRun() { QCoreApplication::processEvents(); }
 
 void QtPlatform::Wait(int seconds) {
-  QElapsedTimer clock;
-  clock.start();
-  while (!ended_ && clock.elapsed() < 1000LL * seconds) {
+  // The clock counts whole seconds: a wait of none goes on until the next one begins.
+  const qint64 last = QDateTime::currentSecsSinceEpoch() + seconds;
+  while (!ended_ && QDateTime::currentSecsSinceEpoch() <= last) {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
     QThread::msleep(1);
   }
