@@ -82,12 +82,11 @@ constexpr auto kAuthorRows = std::to_array<ControlRow>({
     {.Name = "OVN_Icon", .Kind = ImageBox, .At = {240, 150, 480, 480}, .Spoken = "Icon of Orvane"},
     {.Name = "Title",    .Kind = Panel, .Caption = "Orvane   (OVN)", .At = {900, 0, 5460, 780}},
     {.Name = "Panel3D1", .Kind = Frame, .At = {2580, 1080, 3660, 2460}},
-    {.Name = "Image1",   .Kind = ImageBox, .At = {360, 1080, 1980, 2460}, .Spoken = "Picture of the author"},
-    {.Name = "Author",   .Kind = Panel, .Caption = "The author", .At = {2790, 1200, 3240, 330}},
+    {.Name = "Image1",   .Kind = ImageBox, .At = {360, 1080, 1980, 2460}, .Spoken = "A reader of Orvane"},
+    {.Name = "Author",   .Kind = Panel, .Caption = "About Orvane", .At = {2790, 1200, 3240, 330}},
     {.Name = "Panel3D2", .Kind = Panel, .Caption =
-        "A biochemist and teacher. Orvane grew out of lessons in which students wanted to turn a helix "
-        "in their own hands, measure a bond and see the hand of an amino acid before they learned its "
-        "name.", .At = {2790, 1560, 3240, 1920}},
+        "Orvane grew out of lessons in which students wanted to turn a helix in their own hands, "
+        "measure a bond and see the hand of an amino acid before they learned its name.", .At = {2790, 1560, 3240, 1920}},
     {.Name = "Line1",    .Kind = Line,  .At = {360, 3780, 5880, 15}},
     {.Name = "Get_in",   .Kind = GoOn,  .At = {5745, 3915, 450, 450}, .Tip = "Go on", .Spoken = "Go on", .TabStop = 1},
 });
