@@ -1,4 +1,5 @@
-// The round button that leads on to the next window. It has the keyboard at the start, so Enter goes on.
+// The round button that leads on to the next window. It has the keyboard at the start, so Enter
+// goes on.
 #pragma once
 
 #include "desktop/plate.h"
