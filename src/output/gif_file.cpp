@@ -54,7 +54,7 @@ int AppendTo(GifFileType* file, const GifByteType* bytes, int count) {
 }
 
 struct Source {
-  const FileBytes& Bytes;
+  std::span<const unsigned char> Bytes;
   std::size_t Next = 0;
 };
 
@@ -225,6 +225,26 @@ std::optional<FileBytes> WithOneMoreFrame(const FileBytes& animation, const Bitm
       [](GifByteType now, GifByteType then) { return now == then ? kGifUnchanged : now; });
   AddDelay(AddImage(*gif, frame, ChangedBox(frame)), kGifUnchanged);
   return Written(*gif, width, height);
+}
+
+std::optional<Bitmap> FirstFrameOf(std::span<const unsigned char> bytes) {
+  Source source{bytes};
+  const ReadGif gif = Read(source);
+  if (gif == nullptr || gif->ImageCount == 0) return std::nullopt;
+  const SavedImage& frame = gif->SavedImages[0];
+  const GifImageDesc& at = frame.ImageDesc;
+  const ColorMapObject* map = at.ColorMap != nullptr ? at.ColorMap : gif->SColorMap;
+  if (map == nullptr) return std::nullopt;
+  Bitmap picture{at.Width, at.Height, {}};
+  picture.Words.reserve(static_cast<std::size_t>(at.Width) * static_cast<std::size_t>(at.Height));
+  for (int i = 0; i < at.Width * at.Height; ++i) {
+    const int index = frame.RasterBits[i];
+    if (index >= map->ColorCount) return std::nullopt;
+    const GifColorType& colour = map->Colors[index];
+    picture.Words.push_back(0xFF000000U | std::uint32_t{colour.Red} << 16 |
+                            std::uint32_t{colour.Green} << 8 | colour.Blue);
+  }
+  return picture;
 }
 
 }  // namespace orvane

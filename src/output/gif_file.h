@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "draw/picture.h"
@@ -20,5 +21,8 @@ FileBytes AnimationOf(const Bitmap& first);
 // The animation and one frame more, which holds only what differs from the frame before it. Nothing
 // when the bytes are no GIF in our palette, or one that is cut short.
 std::optional<FileBytes> WithOneMoreFrame(const FileBytes& animation, const Bitmap& next);
+
+// The first frame of a GIF in any palette. Nothing when the bytes are no GIF, or one cut short.
+std::optional<Bitmap> FirstFrameOf(std::span<const unsigned char> gif);
 
 }  // namespace orvane

@@ -3,9 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <set>
+#include <sstream>
 
+#include "background_maker/background_maker.h"
+#include "desk_fixture.h"
 #include "draw/elements.h"
 #include "runtime/failure.h"
 
@@ -49,7 +53,32 @@ TEST(Backgrounds, AreFiveSquaresOfOpaquePixels) {
   }
 }
 
-TEST(Backgrounds, ArePaintedWhenFirstAskedForAndKept) {
+TEST(Backgrounds, AreWhatTheMakerDraws) {
+  Colours colours;
+  for (int n = 0; n < kBackgroundCount; ++n) {
+    std::ifstream file(std::string(ORVANE_SOURCE_DIR) + "/src/draw/backgrounds/bgr" +
+                           std::to_string(n + 1) + ".gif",
+                       std::ios::binary);
+    std::ostringstream kept;
+    kept << file.rdbuf();
+    EXPECT_TRUE(kept.str() == backgrounds::BackgroundFile(n)) << n;
+    EXPECT_TRUE(BackgroundPicture(colours, n)->Words == backgrounds::DrawBackground(n).Words) << n;
+  }
+}
+
+TEST(Backgrounds, NoneIsDecodedBeforeOneIsAskedFor) {
+  DeskAtWork work;
+  const auto decoded = [&] {
+    return std::ranges::count_if(work.desk.colours.BakImg,
+                                 [](const auto& p) { return p != nullptr; });
+  };
+  SelectRow(work.desk, work.desk.main.Pro_Lst, 1);
+  EXPECT_EQ(decoded(), 0);
+  Click(work.desk, work.desk.main.Bgr4);
+  EXPECT_EQ(decoded(), 1);
+}
+
+TEST(Backgrounds, AreDecodedWhenFirstAskedForAndKept) {
   Colours colours;
   EXPECT_EQ(colours.BakImg[2], nullptr);
   const auto picture = BackgroundPicture(colours, 2);

@@ -97,6 +97,33 @@ TEST(GifFile, TwoPicturesShareOnePalette) {
             ReadBack(GifOf(EveryColour())).Palette);
 }
 
+TEST(GifFile, IsReadBackPixelByPixel) {
+  const Bitmap picture = FirstFrameOf(GifOf(EveryColour())).value();
+  EXPECT_EQ(picture.Width, 17);
+  EXPECT_EQ(picture.Height, 15);
+  EXPECT_EQ(picture.Words, EveryColour().Words);
+}
+
+TEST(GifFile, OfAnimationsTheFirstFrameIsRead) {
+  const FileBytes film = WithOneMoreFrame(AnimationOf(EveryColour()), Plain(17, 15, 0)).value();
+  EXPECT_EQ(FirstFrameOf(film).value().Words, EveryColour().Words);
+}
+
+TEST(GifFile, IsReadInAnyPalette) {
+  FileBytes other = GifOf(Plain(1, 1, kPalette0));  // black is colour 0 of our palette,
+  other[13] = 1;                                    // which stands behind 13 bytes of heading
+  other[14] = 2;
+  other[15] = 3;
+  EXPECT_EQ(FirstFrameOf(other).value().Words, std::vector<std::uint32_t>{0xFF010203});
+}
+
+TEST(GifFile, IsNotReadWhenItIsNoneOrCutShort) {
+  EXPECT_FALSE(FirstFrameOf({}));
+  EXPECT_FALSE(FirstFrameOf(FileBytes(1000, 'G')));
+  const FileBytes whole = GifOf(EveryColour());
+  EXPECT_FALSE(FirstFrameOf(std::span(whole).first(whole.size() / 2)));
+}
+
 TEST(GifAnimation, LoopsForEverFromItsFirstFrame) {
   const ReadGif gif = ReadBack(AnimationOf(EveryColour()));
   ASSERT_EQ(gif.Frames.size(), 1u);

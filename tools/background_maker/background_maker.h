@@ -1,0 +1,18 @@
+// Draws the five background pictures by rule: dark, quiet, and with no edge that could pass for a
+// bond.
+#pragma once
+
+#include <string>
+
+#include "draw/picture.h"
+
+namespace orvane::backgrounds {
+
+// Picture `index`, 0 to 4, in the order of the menu.
+Bitmap DrawBackground(int index);
+
+// The picture as the file that is kept: a GIF in the picture's own shades. Empty if it has more
+// than the 256 that such a file can hold.
+std::string BackgroundFile(int index);
+
+}  // namespace orvane::backgrounds
