@@ -99,6 +99,7 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   orvane::bench::Ratios ratios;
   benchmark::RunSpecifiedBenchmarks(&ratios);
+  ratios.PrintTimes();
   ratios.Print("one BMP / memset of the surface", "OneBmp", "Memset");
   ratios.Print("one JPEG / memset of the surface", "OneJpeg", "Memset");
   ratios.Print("one GIF / memset of the surface", "OneGif", "Memset");
