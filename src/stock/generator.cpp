@@ -7,7 +7,6 @@
 #include "core/selection.h"
 #include "runtime/arithmetic.h"
 #include "runtime/number_text.h"
-#include "stock/residue_table.h"
 #include "view/reset.h"
 
 namespace orvane {
@@ -159,15 +158,21 @@ void PlaceAtom(Orvane_Desk& desk, double torsion, double angle, double length,
   Bt3_Reset_Click(desk);
 }
 
+std::vector<Placement> PlacementsOf(std::string_view key) {
+  std::vector<Placement> rows;
+  for (const Placement& row : kCommonPlacements) {
+    if (row.Residue != key) rows.push_back(row);
+  }
+  for (const Placement& row : kResiduePlacements) {
+    if (row.Residue == key) rows.push_back(row);
+  }
+  return rows;
+}
+
 void GenerateResidue(Orvane_Desk& desk, std::string_view key) {
   if (key.empty()) return;
   TakeFrame(desk);
-  for (const Placement& row : kCommonPlacements) {
-    if (row.Residue != key) PlaceRow(desk, row);
-  }
-  for (const Placement& row : kResiduePlacements) {
-    if (row.Residue == key) PlaceRow(desk, row);
-  }
+  for (const Placement& row : PlacementsOf(key)) PlaceRow(desk, row);
 }
 
 }  // namespace orvane
