@@ -39,8 +39,7 @@ void SurveyResidues(Orvane_Desk& desk) {
   const int step = desk.molecule.MolText == desk.stock.TextAlfb ? kStepOfTen : kStepOfFive;
   for (int i = 1; i <= desk.molecule.AtomCount; ++i) {
     survey.SurveyAtom = i;
-    if (ShortName(desk.molecule.AtomName[i]) != "CA" || i <= 4)
-      continue;  // passes the first residue
+    if (!IsSurveyed(desk.molecule, i)) continue;
     desk.measure.PickAtomD = i;
     AddRow(survey.PhiList, survey.PhiCount, survey.PhiMax, survey.PhiMid,
            SignedTorsion(desk, i - step, i - 1, i, i + 1, Phi));
@@ -84,6 +83,10 @@ constexpr PlotCaption kCaptions[] = {
 };
 
 }  // namespace
+
+bool IsSurveyed(const Molecule& molecule, int atom) {
+  return ShortName(molecule.AtomName[atom]) == "CA" && atom > 4;  // passes the first residue
+}
 
 void TorsionSurvey(Orvane_Desk& desk) {
   Survey& survey = desk.survey;

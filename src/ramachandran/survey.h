@@ -8,6 +8,9 @@
 
 namespace orvane {
 
+// Whether the survey has a row for an atom: the rows come in the order of these atoms.
+bool IsSurveyed(const Molecule& molecule, int atom);
+
 // Fills the lists and draws on the areas. The last row takes part in the ranges and is not plotted.
 // The last psi reads atoms beyond AtomCount: whatever an earlier, longer structure left there.
 // Leaves PointA to PointD and PickAtomD changed.
