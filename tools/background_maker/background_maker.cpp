@@ -84,15 +84,15 @@ Shade Honeycomb(double x, double y) {
   return Between(Between({5, 12, 11}, {2, 6, 6}, FromMiddle(x, y)), {10, 29, 25}, share);
 }
 
-// The last light over a dark plain.
+// The last light over a dark plain, with haze where they meet, so that no line crosses a molecule.
 Shade NightHorizon(double, double y) {
   constexpr double kHorizon = 262;  // below the middle, where the molecule turns
-  const Shade glow{15, 21, 50};
-  if (y < kHorizon) {
-    const double height = y / kHorizon;
-    return Between({2, 3, 9}, glow, height * height);
-  }
-  return Between({5, 8, 18}, {1, 2, 4}, (y - kHorizon) / (0.5 * (kBackgroundSide - kHorizon)));
+  constexpr double kHaze = 28;
+  const double height = std::min(1.0, y / kHorizon);
+  const Shade sky = Between({2, 3, 9}, {15, 21, 50}, height * height);
+  const double below = (y - kHorizon) / (0.5 * (kBackgroundSide - kHorizon));
+  const Shade plain = Between({5, 8, 18}, {1, 2, 4}, below);
+  return Between(sky, plain, Ease((y - kHorizon + kHaze / 2) / kHaze));
 }
 
 // In the order of the menu, "Bgr &1" first.
