@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 
 #include "desktop/control_view.h"
+#include "desktop/palette.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
 #include "draw/surface.h"
@@ -30,19 +31,21 @@ QImage Rastered(Skin& skin, const Picture& picture, QSize size) {
   return image;
 }
 
-// The control's face alone: its widget may be larger by what is painted round it.
+// The control's face alone: its widget may be larger by what is painted round it. The face's corner
+// is a whole device pixel and the widget's need not be one, so the painter is moved to the face
+// before anything is painted, and each part comes onto the pixels that it has on the screen. Round
+// corners show the frame that surrounds the picture.
 QImage Grabbed(Skin& skin, Control& source) {
   WindowWidget& window = skin.WindowOf(source.Owner);
   const ControlView* view = window.ViewOf(source);
-  QImage image = (view == nullptr ? window.grab() : view->widget.grab()).toImage();
-  image.setDevicePixelRatio(1);
-  if (view != nullptr) {
-    const Spot& spot = view->Stand();
-    const QPointF corner =
-        QPointF(spot.Face.topLeft()) - QPointF(spot.Hull.topLeft()) * window.scale.Ratio;
-    image = image.copy(QRect(corner.toPoint(), spot.Face.size()).intersected(image.rect()));
-  }
-  return image.convertToFormat(QImage::Format_RGB32);
+  if (view == nullptr) return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+  QImage image(view->Stand().Face.size(), QImage::Format_RGB32);
+  image.setDevicePixelRatio(window.scale.Ratio);
+  image.fill(palette::kBezel);
+  QPainter painter(&image);
+  painter.translate(-view->FaceInWidget().topLeft());
+  view->widget.render(&painter);
+  return image;
 }
 
 Bitmap BitmapOf(const QImage& image) {

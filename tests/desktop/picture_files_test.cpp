@@ -179,7 +179,7 @@ TEST_F(PictureFiles, ASplitViewIsTakenWithItsCaptionsAsTheWindowShowsIt) {
 
   ASSERT_EQ(saved.size(), panel.size());
   const QImage shown = Shot().copy(panel);
-  // Its corners are rounded, and there the window's ground looks through.
+  // Its corners are rounded, and what lies under it looks through there.
   const int corner = panel.width() / 50;
   const QRect inner = saved.rect().adjusted(corner, corner, -corner, -corner);
   EXPECT_EQ(saved.copy(inner), shown.copy(inner));
