@@ -20,6 +20,7 @@ void PictureWidget::Take(Aspect aspect) {
       aspect == Aspect::Surface || aspect == Aspect::Picture || aspect == Aspect::BackColor;
   if (!drawn) return ControlView::Take(aspect);
   stale_ = true;
+  rest_tip_.Drop();
   host.skin.RepaintSoon(*this);
 }
 
@@ -49,6 +50,13 @@ void PictureWidget::RasterOnce() {
 const QImage& PictureWidget::Pixels() {
   if (stale_) RasterOnce();
   return pixels_;
+}
+
+bool PictureWidget::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && rest_tip_.Answer(*static_cast<QHelpEvent*>(event))) {
+    return true;
+  }
+  return Viewed::event(event);
 }
 
 void PictureWidget::paintEvent(QPaintEvent*) {

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 
 #include "desktop/control_view.h"
+#include "desktop/rest_tip.h"
 #include "draw/picture.h"
 
 namespace orvane {
@@ -17,6 +18,7 @@ class PictureWidget : public Viewed<QWidget> {
   void Lay() override;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -31,6 +33,7 @@ class PictureWidget : public Viewed<QWidget> {
   bool stale_ = true;  // the pixels are older than the picture
   bool held_ = false;
   QImage pixels_;
+  RestTip rest_tip_{*this};
 };
 
 }  // namespace orvane

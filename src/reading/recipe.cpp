@@ -83,7 +83,7 @@ std::string WordsOf(const Orvane_Desk& desk, int atom, const Placement& row) {
   const bool as_entered = std::fabs(row.Angle - angle) < kShownApart &&
                           std::fabs(std::remainder(row.Torsion - torsion, 360)) < kShownApart;
   if (as_entered) return words;
-  return words + " (entered as " + NumberWords(row.Angle) + "° and " + NumberWords(row.Torsion) +
+  return words + "\n(entered as " + NumberWords(row.Angle) + "° and " + NumberWords(row.Torsion) +
          "°)";
 }
 

@@ -32,10 +32,11 @@ TEST_F(RecipeTest, TellsLengthAngleAndTorsionByTheAtomsThatSpanThem) {
 // 289 is 109 behind the axis and half a turn; 360 - 295.04 and 180 - 69.98 are what CB stands at.
 TEST_F(RecipeTest, TellsTheEntriesWhereTheyCountOtherwise) {
   Build("ALA");
-  EXPECT_EQ(Recipe(8),
-            "1 Å from N, angle H3–N–CA 109.0°, torsion H3–N–CA–C −60.0° (entered as 289° and 60°)");
+  EXPECT_EQ(
+      Recipe(8),
+      "1 Å from N, angle H3–N–CA 109.0°, torsion H3–N–CA–C −60.0°\n(entered as 289° and 60°)");
   EXPECT_EQ(Recipe(10),
-            "1.5 Å from CA, angle CB–CA–C 110.0°, torsion CB–CA–C–O 65.0° (entered as 69.98° and "
+            "1.5 Å from CA, angle CB–CA–C 110.0°, torsion CB–CA–C–O 65.0°\n(entered as 69.98° and "
             "295.04°)");
 }
 
@@ -125,7 +126,7 @@ double NumberOf(std::string text) {
 Said Understood(const std::string& words) {
   static const std::regex kForm(
       "([0-9.]+) Å from (\\w+)( \\(no bond\\))?, angle (\\w+)–(\\w+)–(\\w+) ([0-9.]+)°, "
-      "torsion (\\w+)–(\\w+)–(\\w+)–(\\w+) ((−)?[0-9.]+)°( \\(entered as .*\\))?");
+      "torsion (\\w+)–(\\w+)–(\\w+)–(\\w+) ((−)?[0-9.]+)°(\n\\(entered as .*\\))?");
   std::smatch part;
   EXPECT_TRUE(std::regex_match(words, part, kForm)) << words;
   if (part.empty()) return {};
@@ -194,7 +195,7 @@ TEST_P(RecipeOf, TellsTheEntriesOfTheTableWhereTheyDiffer) {
     EXPECT_EQ(said.Names, (std::array<std::string, 4>{
                               std::string(rows[k].Atom), std::string(rows[k].BondedTo),
                               std::string(rows[k].AngleRef), std::string(rows[k].TorsionRef)}));
-    static const std::regex kEntries(".*entered as (.*)° and (.*)°\\)");
+    static const std::regex kEntries("[^]*entered as (.*)° and (.*)°\\)");
     std::smatch part;
     const bool told = std::regex_match(words, part, kEntries);
     const bool same = std::fabs(rows[k].Angle - said.Angle) < 0.1 &&

@@ -1,0 +1,18 @@
+// What a pointer that rests on a control is told beyond the control's own tip.
+#pragma once
+
+#include <string>
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+// Pixels of a control round the pointer: about as far as a press picks.
+inline constexpr float kRestReach = 4;
+
+// At a point of a control, in its own pixels. Over the picture and the halves of a split view the
+// atom there and on a second line how it was placed, over an area of the map the circle there.
+// Empty for every other control and where there is neither.
+std::string RestWords(const Orvane_Desk& desk, const Control& control, float x, float y);
+
+}  // namespace orvane
