@@ -15,7 +15,7 @@ struct NamedDump {
 
 constexpr NamedDump kDumps[] = {
     {"", DumpFields},     {"controls", DumpControls}, {"atoms", DumpAtoms},
-    {"bonds", DumpBonds}, {"survey", DumpSurvey},
+    {"bonds", DumpBonds}, {"survey", DumpSurvey},     {"readout", DumpReadout},
 };
 
 constexpr int kLastSurveyRow = 500;
@@ -117,6 +117,16 @@ std::string DumpSurvey(const Orvane_Desk& desk) {
   ObjectLine line;
   AppendFromOne(line, "PhiList", desk.survey.PhiList, desk.survey.PhiCount, kLastSurveyRow);
   AppendFromOne(line, "PsiList", desk.survey.PsiList, desk.survey.PhiCount, kLastSurveyRow);
+  return line.Closed();
+}
+
+std::string DumpReadout(const Orvane_Desk& desk) {
+  ObjectLine line;
+  line.String("Caption", desk.main.Caption.Get());
+  line.Number("AtomCount", desk.molecule.AtomCount);
+  line.Number("BondCount", desk.molecule.BondCount);
+  line.Number("HBondCount", desk.molecule.HBondCount);
+  line.String("P_Dst_Show", desk.main.P_Dst_Show.Caption.Get());
   return line.Closed();
 }
 

@@ -68,6 +68,21 @@ TEST(Dump, ShowsTheResultAndTheTitle) {
   EXPECT_EQ(dump["Caption"], "Orvane \"x\"");
 }
 
+TEST(DumpOfTheReadout, HasTheTitleTheCountsAndTheResultAlone) {
+  Session session;
+  Molecule& molecule = session.Desk().molecule;
+  molecule.AtomCount = 3;
+  molecule.BondCount = 2;
+  molecule.HBondCount = 1;
+  session.Desk().main.P_Dst_Show.Caption = "  N   -  O  : 02.99 Angs \n   GLY 1 - GLY 1";
+  EXPECT_EQ(Asked(session, "dump readout"),
+            (Json{{"Caption", "Orvane (OVN) V3.0"},
+                  {"AtomCount", 3},
+                  {"BondCount", 2},
+                  {"HBondCount", 1},
+                  {"P_Dst_Show", "  N   -  O  : 02.99 Angs \n   GLY 1 - GLY 1"}}));
+}
+
 TEST(Dump, ComesInTheSameOrderEachTime) {
   Session session;
   const std::string first = session.Do("dump\ndump controls");
