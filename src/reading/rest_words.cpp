@@ -8,6 +8,7 @@ namespace orvane {
 namespace {
 
 std::string AtomAndRecipe(const Orvane_Desk& desk, int atom) {
+  if (desk.view.AutoRotateOn == 1) return {};  // gone from there before it is read
   const std::string recipe = RecipeWords(desk, atom);
   return AtomWords(desk, atom) + (recipe.empty() ? "" : "\n") + recipe;
 }

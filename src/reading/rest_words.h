@@ -12,7 +12,7 @@ inline constexpr float kRestReach = 4;
 
 // At a point of a control, in its own pixels. Over the picture and the halves of a split view the
 // atom there and on a second line how it was placed, over an area of the map the circle there.
-// Empty for every other control and where there is neither.
+// Empty for every other control, where there is neither, and for atoms while they spin.
 std::string RestWords(const Orvane_Desk& desk, const Control& control, float x, float y);
 
 }  // namespace orvane

@@ -44,6 +44,14 @@ TEST_F(RestWordsTest, OverTheMapTellTheCircle) {
   EXPECT_TRUE(RestWords(desk, desk.plot.Area[0], circle.X1, circle.Y1).starts_with("Alanine "));
 }
 
+TEST_F(RestWordsTest, TellNoAtomWhileItSpins) {
+  Choose(*this, main.AA_Lst, "ALA");
+  Click(desk, main.P_Auto_Rotate);
+  EXPECT_EQ(AtAtom(main.Picture1, 1), "");
+  Click(desk, main.P_Auto_Rotate);
+  EXPECT_NE(AtAtom(main.Picture1, 1), "");
+}
+
 TEST_F(RestWordsTest, AreEmptyBesideTheAtomsAndOverOtherControls) {
   EXPECT_EQ(RestWords(desk, main.Picture1, 180, 180), "");
   Choose(*this, main.AA_Lst, "ALA");
