@@ -44,7 +44,7 @@ QImage Grabbed(Skin& skin, Control& source) {
   image.fill(palette::kBezel);
   QPainter painter(&image);
   painter.translate(-view->FaceInWidget().topLeft());
-  view->widget.render(&painter);
+  view->widget.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
   return image;
 }
 
