@@ -5,6 +5,7 @@
 #include <set>
 
 #include "desk_fixture.h"
+#include "draw/backgrounds.h"
 #include "draw/canvas.h"
 #include "draw/elements.h"
 #include "draw/raster.h"
@@ -36,11 +37,11 @@ TEST(GifPalette, HoldsEveryColourOfPensAndSwatchesExactly) {
   }
 }
 
-TEST(GifPalette, GoesThroughTheSpectrumInStepsOfAFifth) {
+TEST(GifPalette, GoesThroughTheSpectrumInStepsOfAFifthAndOfAQuarterInBlue) {
   GifColours map;
   for (int red = 0; red < 256; red += 51) {
     for (int green = 0; green < 256; green += 51) {
-      for (int blue = 0; blue < 256; blue += 51) {
+      for (const int blue : {0, 63, 127, 191, 255}) {
         const std::uint32_t word = WordOf(Rgb(red, green, blue));
         EXPECT_EQ(GifPalette()[map.IndexOf(word)], word);
       }
@@ -48,10 +49,43 @@ TEST(GifPalette, GoesThroughTheSpectrumInStepsOfAFifth) {
   }
 }
 
+TEST(GifPalette, HasEachFifthBetweenBlackAndWhite) {
+  GifColours map;
+  for (int grey = 0; grey < 256; grey += 51) {
+    const std::uint32_t word = WordOf(Rgb(grey, grey, grey));
+    EXPECT_EQ(GifPalette()[map.IndexOf(word)], word);
+  }
+}
+
+// Half of the cube's step is 25, more than a dark ground itself has: a glow became a bright disc.
+// The table's own steps are 13 at most, so that half of one is left.
+TEST(GifPalette, HasTheShadesOfTheBackgroundPictures) {
+  Colours colours;
+  GifColours map;
+  for (int n = 0; n < kBackgroundCount; ++n) {
+    int most = 0;
+    for (const std::uint32_t word : BackgroundPicture(colours, n)->Words) {
+      const std::uint32_t given = GifPalette()[map.IndexOf(word)];
+      for (const int shift : {0, 8, 16}) {
+        most = std::max(most, std::abs(static_cast<int>(word >> shift & 255u) -
+                                       static_cast<int>(given >> shift & 255u)));
+      }
+    }
+    EXPECT_LE(most, 6) << "picture " << n;
+  }
+}
+
+TEST(GifPalette, HoldsTheZonesOfTheMapExactly) {
+  GifColours map;
+  for (const Colour zone : {Rgb(255, 206, 206), Rgb(254, 143, 149), Rgb(255, 117, 117)}) {
+    EXPECT_EQ(GifPalette()[map.IndexOf(WordOf(zone))], WordOf(zone));
+  }
+}
+
 TEST(GifPalette, GivesWhatItDoesNotHoldTheNearestColour) {
   GifColours map;
   // Next to black, to the side chain's pink (255, 20, 147) and to white; nothing else is as near.
-  EXPECT_EQ(GifPalette()[map.IndexOf(WordOf(Rgb(3, 3, 3)))], WordOf(kPalette0));
+  EXPECT_EQ(GifPalette()[map.IndexOf(WordOf(Rgb(1, 0, 1)))], WordOf(kPalette0));
   EXPECT_EQ(GifPalette()[map.IndexOf(WordOf(Rgb(254, 22, 146)))], WordOf(Rgb(255, 20, 147)));
   EXPECT_EQ(GifPalette()[map.IndexOf(WordOf(Rgb(252, 251, 253)))], WordOf(kPalette15));
 }
