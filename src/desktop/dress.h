@@ -24,7 +24,6 @@ enum class Cut {
   Reading,  // a text broken into lines
   Greek,    // a letter over the gap of a reading text
   RoundPicture,
-  Figure,  // a person, drawn
 };
 
 struct Dress {

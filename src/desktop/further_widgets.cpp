@@ -51,8 +51,6 @@ ControlView* MakeFurtherView(WindowWidget& window, Control& control, QWidget& pa
       return new GreekLetter(window, control, parent);
     case Cut::RoundPicture:
       return new RoundPicture(window, control, parent);
-    case Cut::Figure:
-      return new FigureWidget(window, control, parent);
     default:
       return nullptr;
   }

@@ -46,7 +46,7 @@ constexpr auto kDresses = std::to_array<Dress>({
     {.Control = "Author_frm.OVN_Icon", .Shape = Cut::Icon},
     {.Control = "Author_frm.Title",    .Ink = kOnDark, .Letters = {18, 700}, .Align = Side::Left},
     {.Control = "Author_frm.Panel3D1", .Face = kFace, .Edge = kListEdge, .Corner = 6},
-    {.Control = "Author_frm.Image1",   .Shape = Cut::Figure, .Face = kBezel, .Edge = kEdge, .Corner = 6},
+    {.Control = "Author_frm.Image1",   .Shape = Cut::RoundPicture, .Edge = kEdge, .Corner = 6},
     {.Control = "Author_frm.Author",   .Ink = kDeep, .Letters = {14, 700}, .Align = Side::Left},
     {.Control = "Author_frm.Panel3D2", .Shape = Cut::Reading, .Letters = {13, 500}, .TextTop = 0, .LineHeight = 16},
     {.Control = "Author_frm.Line1",    .Face = kHair},

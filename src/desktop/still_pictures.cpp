@@ -1,7 +1,5 @@
 #include "desktop/still_pictures.h"
 
-#include <QPainterPath>
-
 #include "desktop/icon.h"
 #include "desktop/window_widget.h"
 
@@ -26,20 +24,6 @@ void RoundPicture::paintEvent(QPaintEvent*) {
   PaintPlate(painter, face, palette::kNone, dress_.Edge, corner, edge);
   painter.setBrush(QBrush(Pixels()));
   painter.drawRoundedRect(face.adjusted(edge, edge, -edge, -edge), corner - edge, corner - edge);
-}
-
-void FigureWidget::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  const QRect face = EnterPixels(painter);
-  const double unit = Unit(), corner = dress_.Corner * unit;
-  PaintPlate(painter, face, dress_.Face, dress_.Edge, corner, host.scale.Edge());
-  const double middle = face.width() / 2.0;
-  QPainterPath person;
-  person.addEllipse(QPointF(middle, 56 * unit), 27 * unit, 27 * unit);
-  person.addRoundedRect(QRectF(middle - 42 * unit, 92 * unit, 84 * unit, 90 * unit), 42 * unit,
-                        42 * unit);
-  painter.setClipRect(face.adjusted(0, 0, 0, -host.scale.Edge()));
-  painter.fillPath(person, QColor::fromRgba(palette::kAccent));
 }
 
 }  // namespace orvane

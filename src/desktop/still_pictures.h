@@ -1,4 +1,4 @@
-// Pictures that are no surface: the icon, a picture in a card, a drawn person.
+// Pictures that are no surface: the icon, a picture in a card.
 #pragma once
 
 #include "desktop/dress.h"
@@ -25,15 +25,6 @@ class RoundPicture : public PictureWidget {
 
  private:
   const Dress& dress_;
-};
-
-// Head and shoulders on a dark ground.
-class FigureWidget : public Plate {
- public:
-  using Plate::Plate;
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
 };
 
 }  // namespace orvane

@@ -1,6 +1,7 @@
 #include "shell/front_frames.h"
 
 #include <cmath>
+#include <embedded/AuthorFrame.h>
 #include <embedded/DnaFrames.h>
 #include <embedded/ProteinFrames.h>
 
@@ -8,7 +9,8 @@ namespace orvane {
 namespace {
 
 constexpr float kStepsPerPixel = 16.0F;
-constexpr int kFrameSide = 360;  // surface pixels
+constexpr int kFrameSide = 360;                  // surface pixels
+constexpr Colour kDarkGround = Rgb(24, 35, 44);  // of the author window's head, too
 
 // Whole numbers in little-endian order, whatever the machine.
 class Writer {
@@ -99,6 +101,9 @@ void FillInformationPictures(Orvane_Desk& desk) {
   desk.front.Image1[1].SetPicture(dna.front());
   desk.content.Image1[0].SetPicture(dna.front());
   desk.content.Image1[1].SetPicture(protein.front());
+  Picture alanine = *FramesFromBytes(embedded::AuthorFrame()).front();
+  alanine.BackColor = kDarkGround;
+  desk.author.Image1.SetPicture(std::make_shared<const Picture>(std::move(alanine)));
 }
 
 }  // namespace orvane

@@ -17,7 +17,7 @@ std::string FramesAsBytes(std::span<const std::shared_ptr<const Picture>> frames
 std::vector<std::shared_ptr<const Picture>> FramesFromBytes(std::span<const unsigned char> bytes);
 
 // Gives Pro_Image and DNA_Image their frames, and the first of each to the splash; the pictures of
-// the overview are frames of the same two.
+// the overview are frames of the same two. The window about the program has a frame of its own.
 void FillInformationPictures(Orvane_Desk& desk);
 
 }  // namespace orvane

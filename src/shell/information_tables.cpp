@@ -82,7 +82,7 @@ constexpr auto kAuthorRows = std::to_array<ControlRow>({
     {.Name = "OVN_Icon", .Kind = ImageBox, .At = {240, 150, 480, 480}, .Spoken = "Icon of Orvane"},
     {.Name = "Title",    .Kind = Panel, .Caption = "Orvane   (OVN)", .At = {900, 0, 5460, 780}},
     {.Name = "Panel3D1", .Kind = Frame, .At = {2580, 1080, 3660, 2460}},
-    {.Name = "Image1",   .Kind = ImageBox, .At = {360, 1080, 1980, 2460}, .Spoken = "A reader of Orvane"},
+    {.Name = "Image1",   .Kind = ImageBox, .At = {360, 1080, 1980, 2460}, .Spoken = "Alanine in balls and sticks"},
     {.Name = "Author",   .Kind = Panel, .Caption = "About Orvane", .At = {2790, 1200, 3240, 330}},
     {.Name = "Panel3D2", .Kind = Panel, .Caption =
         "Orvane grew out of lessons in which students wanted to turn a helix in their own hands, "

@@ -148,6 +148,32 @@ TEST_F(Starting, TheAnimationsAreWhatTheirMakerDraws) {
   };
   EXPECT_TRUE(kept("protein.frames") == ProteinFramesAsBytes());
   EXPECT_TRUE(kept("dna.frames") == DnaFramesAsBytes());
+  EXPECT_TRUE(kept("author.frames") == AuthorFrameAsBytes());
+}
+
+// In a box of 132 by 164 pixels a picture 360 wide is 447 high.
+TEST_F(Starting, TheAuthorWindowShowsAWholeAlanineInItsMiddle) {
+  DeskAtWork work;
+  SelectRow(work.desk, work.desk.main.AA_Lst, 2);
+  const auto picture = desk.author.Image1.Shown();
+  ASSERT_NE(picture, nullptr);
+  int balls = 0;
+  float left = 999, right = 0, top = 999, bottom = 0;
+  for (const Stroke& stroke : picture->Strokes) {
+    if (stroke.Kind != StrokeKind::Circle) continue;
+    ++balls;
+    left = std::min(left, stroke.X1 - stroke.X2);
+    right = std::max(right, stroke.X1 + stroke.X2);
+    top = std::min(top, stroke.Y1 - stroke.X2);
+    bottom = std::max(bottom, stroke.Y1 + stroke.X2);
+  }
+  EXPECT_EQ(balls, work.desk.molecule.AtomCount);
+  EXPECT_GT(left, 15);
+  EXPECT_LT(right, 345);
+  EXPECT_GT(top, 15);
+  EXPECT_LT(bottom, 432);
+  EXPECT_NEAR((left + right) / 2, 180, 20);
+  EXPECT_NEAR((top + bottom) / 2, 447 / 2.0, 20);
 }
 
 TEST_F(Starting, TheTextsStandAsTheyAre) {

@@ -1,5 +1,6 @@
 #include "front_maker/front_maker.h"
 
+#include <array>
 #include <memory>
 #include <vector>
 
@@ -25,7 +26,12 @@ constexpr Scene kDoubleStrand{&MainWindow::DNA_Lst, 2, 0, 3, 5};
 constexpr int kZoomSteps = 5;         // 1.1 to the fifth: from half the frame to 80 per cent
 constexpr double kTurnAFrame = 36.0;  // degrees
 
-std::string Record(const Scene& scene) {
+// Shown in a box that is higher than wide, a quarter more: the surface's 360 become 447.
+constexpr Scene kAlanine{&MainWindow::AA_Lst, 2, 1, 15, 7};
+constexpr float kLower = (447 - 360) / 2.0F;
+
+// What a desk draws of a scene, so many frames of it.
+std::vector<std::shared_ptr<const Picture>> Drawn(const Scene& scene, int count) {
   NoPlatform platform;
   const auto owned = std::make_unique<Orvane_Desk>(platform);
   Orvane_Desk& desk = *owned;
@@ -38,18 +44,28 @@ std::string Record(const Scene& scene) {
     StepBar(desk, desk.main.ZoomBar, step * desk.main.ZoomBar.Range.SmallStep);
   }
   std::vector<std::shared_ptr<const Picture>> frames;
-  for (int frame = 0; frame < kFrontFrames; ++frame) {
+  for (int frame = 0; frame < count; ++frame) {
     RedrawView(desk);
     frames.push_back(desk.main.Picture1.Image());
     desk.view.TurnAngle = kTurnAFrame;
     RotateAll(desk);
   }
-  return FramesAsBytes(frames);
+  return frames;
 }
 
 }  // namespace
 
-std::string ProteinFramesAsBytes() { return Record(kHelix); }
-std::string DnaFramesAsBytes() { return Record(kDoubleStrand); }
+std::string ProteinFramesAsBytes() { return FramesAsBytes(Drawn(kHelix, kFrontFrames)); }
+std::string DnaFramesAsBytes() { return FramesAsBytes(Drawn(kDoubleStrand, kFrontFrames)); }
+
+std::string AuthorFrameAsBytes() {
+  auto upright = std::make_shared<Picture>(*Drawn(kAlanine, 1).front());
+  for (Stroke& stroke : upright->Strokes) {
+    stroke.Y1 += kLower;
+    if (stroke.Kind == StrokeKind::Line) stroke.Y2 += kLower;
+  }
+  const std::array<std::shared_ptr<const Picture>, 1> frames{upright};
+  return FramesAsBytes(frames);
+}
 
 }  // namespace orvane

@@ -1,5 +1,6 @@
 // orvane-front-maker FOLDER: writes protein.frames and dna.frames there, ten frames each of a helix
-// and of the double strand turning about the upright axis, drawn by the desk itself.
+// and of the double strand turning about the upright axis, and author.frames, one frame of alanine,
+// all drawn by the desk itself.
 
 #include <array>
 #include <fstream>
@@ -14,7 +15,8 @@ int main(int count, char** words) {
   }
   const std::string folder = words[1];
   for (const auto& [name, bytes] : {std::pair{"/protein.frames", orvane::ProteinFramesAsBytes()},
-                                    std::pair{"/dna.frames", orvane::DnaFramesAsBytes()}}) {
+                                    std::pair{"/dna.frames", orvane::DnaFramesAsBytes()},
+                                    std::pair{"/author.frames", orvane::AuthorFrameAsBytes()}}) {
     std::ofstream file(folder + name, std::ios::binary);
     file << bytes;
     if (!file.flush()) {
