@@ -8,6 +8,7 @@
 #include "controls/kinds.h"
 #include "handbook/student.h"
 #include "house/source_tree.h"
+#include "reading/rest_words.h"
 #include "replay/played.h"
 #include "shell/main_window_table.h"
 
@@ -86,6 +87,22 @@ TEST(TheDeskPage, TellsOfBothStatesOfEachToggle) {
   session.Do("restart\nenter\nselect AA_Lst 2\nclick Bt3_D_L_Str");
   EXPECT_NE(page.find("`D/L Nst` / `" + session.Desk().main.Bt3_D_L_Str.Caption.Get() + "`"),
             std::string::npos);
+}
+
+TEST(TheMeasuringPage, QuotesTheRestingPointer) {
+  Student serine(kAminoAcids, "SER");
+  const int og = serine.Atom("1 OG");
+  const std::string words =
+      RestWords(serine.Desk(), serine.Main().Picture1, static_cast<float>(serine.Store().ScrX[og]),
+                static_cast<float>(serine.Store().ScrY[og]));
+  const std::size_t line = words.find('\n');
+  ASSERT_NE(line, std::string::npos) << words;
+  for (const std::string& part : {words.substr(0, line), words.substr(line + 1)}) {
+    EXPECT_TRUE(Says("docs/handbook/measuring.md", "*" + part + "*")) << part;
+  }
+  // True ones: folded, the torsion would stand at 90 or more.
+  EXPECT_NEAR(serine.Torsion(og, serine.Atom("1 CB"), serine.Atom("1 CA"), serine.Atom("1 N")),
+              53.7, 0.05);
 }
 
 std::vector<fs::path> PagesOf(const fs::path& folder) {
