@@ -124,9 +124,11 @@ void DressApplication(QApplication& application) {
   QApplication::setStyle(new LookStyle);
   QApplication::setPalette(OwnPalette());
   application.setFont(FontOf({11, 500}));
-  QToolTip::setFont(FontOf(kTipType));
+  SizeTips(1);
   QToolTip::setPalette(OwnPalette());
 }
+
+void SizeTips(double factor) { QToolTip::setFont(FontOf(kTipType, std::max(1.0, factor))); }
 
 LookStyle::LookStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 

@@ -10,6 +10,9 @@ namespace orvane {
 // Style, palette and type, before the first window.
 void DressApplication(QApplication& application);
 
+// Tips in the size of the desk that they come up over; never smaller than at 100 per cent.
+void SizeTips(double factor);
+
 class LookStyle : public QProxyStyle {
  public:
   LookStyle();

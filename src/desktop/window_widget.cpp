@@ -13,6 +13,7 @@
 #include "desktop/control_view.h"
 #include "desktop/dress.h"
 #include "desktop/flyout.h"
+#include "desktop/look_style.h"
 #include "desktop/menu_strip.h"
 #include "desktop/palette.h"
 #include "desktop/skin.h"
@@ -143,6 +144,7 @@ void WindowWidget::LayAll() {
   for (Control* control : shown.Controls) {
     if (ControlView* view = ViewOf(*control)) view->Lay();
   }
+  if (isActiveWindow()) SizeTips(scale.Factor);
   flyout->hide();
 }
 
@@ -170,6 +172,7 @@ void WindowWidget::showEvent(QShowEvent* event) {
 void WindowWidget::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) LayAll();
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) SizeTips(scale.Factor);
 }
 
 void WindowWidget::StandOnScreen() {

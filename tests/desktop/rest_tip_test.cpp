@@ -1,4 +1,5 @@
 // What comes up when the pointer rests on an atom or on a circle of the map.
+#include <cmath>
 #include <gtest/gtest.h>
 
 #include <QHelpEvent>
@@ -81,6 +82,17 @@ TEST_F(RestTipTest, AnAtomIsFoundInAMaximisedWindowToo) {
   ASSERT_GT(window.scale.Factor, 1);
   EXPECT_EQ(TipAtAtom(3), "Phosphorus P of Phosphate, atom 3");
   EXPECT_EQ(TipAtAtom(5), "Oxygen OP2 of Phosphate, atom 5");
+}
+
+// The tip of a projector's desk can be read from the back row.
+TEST_F(RestTipTest, TipsGrowWithTheDeskAndShrinkAgain) {
+  EXPECT_EQ(QToolTip::font().pixelSize(), 11);
+  window.showMaximized();
+  (void)QTest::qWaitFor([this] { return window.scale.Factor > 1; }, 10000);
+  ASSERT_GT(window.scale.Factor, 1.1);
+  EXPECT_EQ(QToolTip::font().pixelSize(), std::lround(11 * window.scale.Factor));
+  window.showNormal();
+  EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::font().pixelSize() == 11; }, 10000));
 }
 
 TEST_F(RestTipTest, AHalfOfASplitViewNamesItsAtoms) {
