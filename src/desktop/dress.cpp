@@ -37,7 +37,7 @@ constexpr auto kDresses = std::to_array<Dress>({
     {.Control = "P_Dst_Show", .Letters = {11, 400}, .Align = Side::Left, .TextLeft = 6, .LineHeight = 16},
     {.Control = "P_Clr_Holder", .Face = kGround, .Edge = kEdge, .Corner = 6, .Floats = true},
     {.Control = "V_RGB_H", .Face = kGround, .Edge = kEdge, .Corner = 6, .Floats = true},
-    {.Control = "P_Dir_Holder", .Face = kGround, .Edge = kEdge, .Corner = 6, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 12, .TextTop = 8, .Floats = true},
+    {.Control = "P_Dir_Holder", .Face = kGround, .Edge = kEdge, .Corner = 6, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 12, .TextTop = 10, .Floats = true},
     {.Control = "P_Clr", .Shape = Cut::Swatch, .Corner = 3, .Letters = {7, 700}},
     {.Control = "Do_color", .Shape = Cut::Bevel, .Corner = 4, .LooksPressed = true},  // its panel is open while it is seen
     {.Control = "Bt_M_Ld", .Shape = Cut::Tab},

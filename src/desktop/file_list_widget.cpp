@@ -14,6 +14,10 @@
 namespace orvane {
 namespace {
 
+// There is room in the chooser, and names of files are read more slowly.
+constexpr RowMeasures kWide{
+    .Height = 17, .FirstTop = 3, .TextLeft = 8, .Inset = 3, .Letters = {11, 500}};
+
 QString PathOf(const FileList& list) { return QString::fromStdString(list.Path); }
 
 }  // namespace
@@ -104,6 +108,7 @@ FolderList::FolderList(WindowWidget& owner, FileList& shown, QWidget& parent)
     : RowList(owner, shown, parent), list_(shown) {
   has_keys_ = joined_ = false;
   edge_ = palette::kEdge;
+  measures_ = kWide;
   ReadFolder();
 }
 
@@ -142,6 +147,7 @@ SoundFileList::SoundFileList(WindowWidget& owner, FileList& shown, QWidget& pare
     : RowList(owner, shown, parent), list_(shown) {
   has_keys_ = joined_ = false;
   edge_ = palette::kEdge;
+  measures_ = kWide;
   ReadFolder();
 }
 

@@ -14,12 +14,10 @@ namespace {
 using namespace palette;
 
 // Pixels at 100 per cent.
-constexpr int kRowHeight = 15, kFirstRowTop = 1;
-constexpr double kTextLeft = 6, kGap = 4;
-constexpr double kRounding = 0.1;              // of sixty-fourths, in a text that fits exactly
-constexpr double kRowLeft = 2, kRowRight = 2;  // of a chosen row, from the list's edges
+constexpr double kGap = 4;
+constexpr double kRounding = 0.1;  // of sixty-fourths, in a text that fits exactly
 constexpr double kBarZone = 7, kThumbWidth = 4, kThumbIn = 3, kThumbLeast = 12;
-constexpr Type kKeyType{11, 600}, kRestType{11, 400};
+constexpr Type kKeyType{11, 600};
 
 }  // namespace
 
@@ -27,20 +25,20 @@ RowList::RowList(WindowWidget& owner, Control& shown, QWidget& parent)
     : Viewed(owner, shown, parent), edge_(kListEdge) {}
 
 int RowList::WholeRows() const {
-  const int inner = control.At.Get().Height / TwipsPerPixel - 2 * kFirstRowTop;
-  return inner / kRowHeight;
+  const int inner = control.At.Get().Height / TwipsPerPixel - 2 * measures_.FirstTop;
+  return inner / measures_.Height;
 }
 
 int RowList::LastFirst() const { return std::max(0, static_cast<int>(rows_.size()) - WholeRows()); }
 
 QRect RowList::RowFace(int row) const {
-  const double right = kRowRight + (HasBar() ? kBarZone : 0);
+  const double right = measures_.Inset + (HasBar() ? kBarZone : 0);
   const auto corner = [&](double pixels) { return host.scale.Device(pixels); };
   const QRect& face = Stand().Face;
-  const double top = kFirstRowTop + static_cast<double>(row - first_) * kRowHeight;
-  const int above = face.top() + corner(top), below = face.top() + corner(top + kRowHeight);
-  return {face.left() + corner(kRowLeft), above, face.width() - corner(kRowLeft) - corner(right),
-          below - above};
+  const double top = measures_.FirstTop + static_cast<double>(row - first_) * measures_.Height;
+  const int above = face.top() + corner(top), below = face.top() + corner(top + measures_.Height);
+  return {face.left() + corner(measures_.Inset), above,
+          face.width() - corner(measures_.Inset) - corner(right), below - above};
 }
 
 QPoint RowList::RowMiddle(int row) const {
@@ -49,8 +47,8 @@ QPoint RowList::RowMiddle(int row) const {
 }
 
 int RowList::RowAt(QPointF widget_point) const {
-  const double y = SurfacePoint(widget_point).y() - kFirstRowTop;
-  const int row = first_ + static_cast<int>(std::floor(y / kRowHeight));
+  const double y = SurfacePoint(widget_point).y() - measures_.FirstTop;
+  const int row = first_ + static_cast<int>(std::floor(y / measures_.Height));
   const bool there = y >= 0 && row < first_ + WholeRows() && row < rows_.size();
   return there ? row : -1;
 }
@@ -64,19 +62,20 @@ RowList::Parts RowList::PartsOf(int row) const {
 
 double RowList::RoomForText() const {
   const double width = static_cast<double>(control.At.Get().Width) / TwipsPerPixel;
-  return width - kTextLeft - (HasBar() ? kRowRight + kBarZone : kTextLeft) + kRounding;
+  return width - measures_.TextLeft - (HasBar() ? measures_.Inset + kBarZone : measures_.TextLeft) +
+         kRounding;
 }
 
 bool RowList::IsCut(int row) const {
   const Parts parts = PartsOf(row);
   const double key = parts.Key.isEmpty() ? 0 : WidthOf(kKeyType, parts.Key) + kGap;
-  return key + WidthOf(kRestType, parts.Rest) > RoomForText();
+  return key + WidthOf(measures_.Letters, parts.Rest) > RoomForText();
 }
 
 QString RowList::RowAsDrawn(int row) const {
   const Parts parts = PartsOf(row);
   const double key = parts.Key.isEmpty() ? 0 : WidthOf(kKeyType, parts.Key) + kGap;
-  const QString rest = Elided(kRestType, parts.Rest, RoomForText() - key);
+  const QString rest = Elided(measures_.Letters, parts.Rest, RoomForText() - key);
   return parts.Key.isEmpty() ? rest : parts.Key + u' ' + rest;
 }
 
@@ -87,7 +86,7 @@ QRectF RowList::BarThumb() const {
   const double share = static_cast<double>(WholeRows()) / std::max<qsizetype>(1, rows_.size());
   const double length = std::max(track * share, kThumbLeast * unit);
   const double at = HasBar() ? (track - length) * first_ / LastFirst() : 0;
-  const double right = size.width() - (kRowRight + 1) * unit;
+  const double right = size.width() - (measures_.Inset + 1) * unit;
   return {std::round(right - kThumbWidth * unit), std::round(kThumbIn * unit + at),
           std::round(kThumbWidth * unit), std::round(length)};
 }
@@ -123,13 +122,13 @@ void RowList::PaintRow(QPainter& painter, int row) {
     PaintPlate(painter, face, chosen ? kAccent : kTint, kNone, 3 * unit, 0);
   }
   const Parts parts = PartsOf(row);
-  QRectF box(kTextLeft * unit, face.top(), RoomForText() * unit, face.height());
+  QRectF box(measures_.TextLeft * unit, face.top(), RoomForText() * unit, face.height());
   if (!parts.Key.isEmpty()) {
     DrawLine(painter, box, Qt::AlignLeft, kKeyType, chosen ? kFace : kDeep, unit, parts.Key);
     box.adjust((WidthOf(kKeyType, parts.Key) + kGap) * unit, 0, 0, 0);
   }
-  const QString rest = Elided(kRestType, parts.Rest, box.width() / unit);
-  DrawLine(painter, box, Qt::AlignLeft, kRestType, chosen ? kFace : kInk, unit, rest);
+  const QString rest = Elided(measures_.Letters, parts.Rest, box.width() / unit);
+  DrawLine(painter, box, Qt::AlignLeft, measures_.Letters, chosen ? kFace : kInk, unit, rest);
 }
 
 void RowList::SetRows(QStringList rows) {

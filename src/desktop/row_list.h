@@ -6,8 +6,17 @@
 #include <QStringList>
 
 #include "desktop/control_view.h"
+#include "desktop/type.h"
 
 namespace orvane {
+
+// Pixels at 100 per cent: those of the four lists of structures, which are tightly set.
+struct RowMeasures {
+  int Height = 15, FirstTop = 1;
+  double TextLeft = 6;  // and right, where there is no bar
+  double Inset = 2;     // of a chosen row, from the list's edges
+  Type Letters{11, 400};
+};
 
 class RowList : public Viewed<QWidget> {
  public:
@@ -42,6 +51,7 @@ class RowList : public Viewed<QWidget> {
   bool has_keys_ = true;  // a row begins with a key of its own
   bool joined_ = true;    // to a heading above
   QRgb edge_;
+  RowMeasures measures_;
 
  private:
   struct Parts {
