@@ -133,6 +133,27 @@ TEST(Truths, TheTopmostAtomMakesAPairForParallelEyesTheLowestOneForCrossed) {
   }
 }
 
+// Red is the turned view. Where that is the right eye's, atoms in front are further left in red,
+// and the eye that is to see red is the right one.
+TEST(Truths, RedBelongsToTheRightEyeInRowsForParallelEyes) {
+  for (const auto& [row, parallel] : {std::pair("VAL", true), std::pair("ALA", false)}) {
+    Student student(kAminoAcids, row);
+    Click(student.Desk(), student.Main().R_G_Stereo);
+    const int front = student.Atom("1 H4");  // in front of CA, about which little moves
+    const auto at_h4 = [&](Colour ink) {
+      for (const Stroke& line : student.Lines(student.Main().Picture1)) {
+        if (line.Ink == ink && line.Y1 == static_cast<float>(student.Store().ScrY[front])) {
+          return line.X1;
+        }
+      }
+      ADD_FAILURE() << "no line at H4";
+      return 0.0F;
+    };
+    const float red = at_h4(Rgb(255, 0, 0)), green = at_h4(Rgb(0, 255, 0));
+    EXPECT_EQ(red < green, parallel) << row;
+  }
+}
+
 // The hand of a carbon in the rule of Cahn, Ingold and Prelog: its three heavier neighbours by
 // rank, the lightest looked away from. In coordinates of right hand the triple product is positive
 // for S.

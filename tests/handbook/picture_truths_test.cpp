@@ -215,6 +215,43 @@ TEST(Truths, CartoonAndTheTraceButtonLeaveOtherStructuresEmpty) {
   }
 }
 
+TEST(Truths, ATraceHasNoNamesAndNoRed) {
+  Student helix(kProteins, "Alfa");
+  Click(helix.Desk(), helix.Main().Bt3_Label);
+  Click(helix.Desk(), helix.Main().M_Rbn);
+  for (const Stroke& stroke : helix.Main().Picture1.Image()->Strokes) {
+    EXPECT_EQ(stroke.Kind, StrokeKind::Line);
+  }
+  Click(helix.Desk(), helix.Main().R_G_Stereo);
+  for (const Stroke& line : helix.Lines(helix.Main().Picture1)) {
+    EXPECT_EQ(line.Ink, Rgb(0, 255, 0));
+  }
+}
+
+TEST(Truths, APairClosesResetAndHidesThePicture) {
+  Student alanine(kAminoAcids, "ALA");
+  for (Button* button : {&alanine.Main().Bt3_Sterio, &alanine.Main().Bt3_Isomers}) {
+    Click(alanine.Desk(), *button);
+    EXPECT_FALSE(alanine.Main().Bt3_Reset.IsOpenToUser());
+    EXPECT_FALSE(alanine.Main().Picture1.IsOpenToUser());
+    Click(alanine.Desk(), *button);
+    EXPECT_TRUE(alanine.Main().Bt3_Reset.IsOpenToUser());
+  }
+  // After D / L the other button wants two clicks.
+  Click(alanine.Desk(), alanine.Main().Bt3_D_L_Str);
+  EXPECT_FALSE(alanine.Main().P_Sterio.Visible);
+  Click(alanine.Desk(), alanine.Main().Bt3_D_L_Str);
+  EXPECT_TRUE(alanine.Main().P_Sterio.Visible);
+}
+
+TEST(Truths, DlIsOpenToAminoAcidsOnly) {
+  for (const Rows list : {kAminoAcids, kProteins, kNucleotides, kStrands}) {
+    DeskAtWork work;
+    SelectRow(work.desk, work.desk.main.*list, 0);
+    EXPECT_EQ(work.desk.main.Bt3_Isomers.Enabled.Get(), list == kAminoAcids);
+  }
+}
+
 TEST(Truths, NamesOfOneToThreeLettersAreSavedAndLongerOnesAreNot) {
   Session session;
   session.Do("enter\nselect AA_Lst 2");
