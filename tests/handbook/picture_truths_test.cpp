@@ -196,6 +196,14 @@ TEST(Truths, ResetAfterTheTurnBarLeavesOneStepOfTenDegrees) {
   EXPECT_TRUE(Says(kPage, "that step turns the molecule by 10 degrees"));
   Click(alanine.Desk(), alanine.Main().Bt3_Reset);
   EXPECT_EQ(store.CurX[1], store.AtomX[1]);
+
+  // Another structure comes turned likewise, but for an amino acid that is built.
+  for (const auto& [list, comes_turned] :
+       {std::pair(kProteins, true), std::pair(kAminoAcids, false)}) {
+    StepBar(alanine.Desk(), alanine.Main().VScroll1, 11);
+    SelectRow(alanine.Desk(), alanine.Main().*list, 3);
+    EXPECT_EQ(store.CurX[1] != store.AtomX[1], comes_turned);
+  }
 }
 
 TEST(Truths, CartoonAndTheTraceButtonLeaveOtherStructuresEmpty) {
