@@ -88,11 +88,24 @@ std::string QtPlatform::ProgramFolder() {
   return QCoreApplication::applicationDirPath().toStdString();
 }
 
-int QtPlatform::SoundOpen(const std::string& path) { return sound_.Open(path); }
-void QtPlatform::SoundPlay() { sound_.Play(); }
-void QtPlatform::SoundStop() { sound_.Stop(); }
-void QtPlatform::SoundClose() { sound_.Close(); }
-bool QtPlatform::SoundIsOpen() { return sound_.IsOpen(); }
-int QtPlatform::SoundLength() { return sound_.Length(); }
+int QtPlatform::SoundOpen(const std::string& path) {
+  if (sound_ == nullptr) sound_ = MakeSound();
+  return sound_ == nullptr ? kSoundNoPlayer : sound_->Open(path);
+}
+
+void QtPlatform::SoundPlay() {
+  if (sound_ != nullptr) sound_->Play();
+}
+
+void QtPlatform::SoundStop() {
+  if (sound_ != nullptr) sound_->Stop();
+}
+
+void QtPlatform::SoundClose() {
+  if (sound_ != nullptr) sound_->Close();
+}
+
+bool QtPlatform::SoundIsOpen() { return sound_ != nullptr && sound_->IsOpen(); }
+int QtPlatform::SoundLength() { return sound_ == nullptr ? 0 : sound_->Length(); }
 
 }  // namespace orvane

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include <QString>
 
 #include "controls/platform.h"
-#include "desktop/sound_player.h"
+#include "desktop/sound.h"
 
 namespace orvane {
 
@@ -36,7 +37,7 @@ class QtPlatform : public Platform {
   bool BoxIsUp() const { return boxes_ > 0; }  // meanwhile no timer ticks
 
  private:
-  SoundPlayer sound_;
+  std::unique_ptr<Sound> sound_;  // from the first file that is opened
   int boxes_ = 0;
   bool ended_ = false;
 };

@@ -82,3 +82,6 @@ void SoundPlayer::Close() {
 int SoundPlayer::Length() const { return open_ ? static_cast<int>(player_->duration()) : 0; }
 
 }  // namespace orvane
+
+// What the program asks the library for, under a name that no compiler changes.
+extern "C" Q_DECL_EXPORT orvane::Sound* OrvaneMakeSound() { return new orvane::SoundPlayer; }

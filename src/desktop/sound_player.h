@@ -1,32 +1,28 @@
-// Plays one sound file at a time. What it needs of the system is looked for when the first file is
-// opened, and no earlier.
+// Plays sound files with the toolkit's multimedia library, which looks for its decoders and for the
+// computer's sound when the first file is opened.
 #pragma once
 
 #include <memory>
 #include <string>
+
+#include "desktop/sound.h"
 
 class QAudioOutput;
 class QMediaPlayer;
 
 namespace orvane {
 
-// Why a file was not opened, as it is numbered to the user; 0: it is open.
-inline constexpr int kSoundOpen = 0;
-inline constexpr int kSoundNotThere = 1;  // no such file, or it cannot be read
-inline constexpr int kSoundNotSound = 2;  // empty, or no sound that can be decoded
-inline constexpr int kSoundNoAnswer = 3;  // the decoder did not answer in time
-
-class SoundPlayer {
+class SoundPlayer : public Sound {
  public:
   SoundPlayer();
-  ~SoundPlayer();
+  ~SoundPlayer() override;
 
-  int Open(const std::string& path);  // returns when it is known whether the file is a sound
-  void Play();
-  void Stop();
-  void Close();
-  bool IsOpen() const { return open_; }
-  int Length() const;  // milliseconds
+  int Open(const std::string& path) override;
+  void Play() override;
+  void Stop() override;
+  void Close() override;
+  bool IsOpen() const override { return open_; }
+  int Length() const override;
 
  private:
   int WaitForAnswer();
