@@ -73,16 +73,13 @@ void Skin::RepaintNow() {
 }
 
 void Skin::SetTimer(Timer& timer) {
-  std::unique_ptr<QTimer>& own = timers_[&timer];
-  if (own == nullptr) {
-    own = std::make_unique<QTimer>();
-    own->setObjectName(QString::fromStdString(timer.FullName()));
-    own->setTimerType(Qt::PreciseTimer);
-    QObject::connect(own.get(), &QTimer::timeout, [this, &timer] { TickOf(timer); });
+  std::unique_ptr<Ticker>& ticker = tickers_[&timer];
+  if (ticker == nullptr) ticker = std::make_unique<Ticker>([this, &timer] { TickOf(timer); });
+  if (timer.Enabled) {
+    ticker->Start(timer.Interval);
+  } else {
+    ticker->Stop();
   }
-  if (own->interval() != timer.Interval) own->setInterval(timer.Interval);
-  if (!timer.Enabled) own->stop();
-  if (timer.Enabled && !own->isActive()) own->start();
 }
 
 void Skin::TickOf(Timer& timer) {

@@ -13,6 +13,7 @@
 #include "controls/window.h"
 #include "desk/orvane_desk.h"
 #include "desktop/qt_platform.h"
+#include "desktop/ticker.h"
 #include "draw/raster.h"
 
 namespace orvane {
@@ -47,7 +48,7 @@ class Skin : public ControlWatcher {
   void RepaintNow();
 
   std::unordered_map<const Window*, std::unique_ptr<WindowWidget>> windows_;
-  std::unordered_map<const Timer*, std::unique_ptr<QTimer>> timers_;
+  std::unordered_map<const Timer*, std::unique_ptr<Ticker>> tickers_;
   std::vector<QPointer<QWidget>> waiting_;  // pictures to paint at the next beat
   QTimer beat_;
   QElapsedTimer since_beat_;
