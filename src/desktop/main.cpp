@@ -2,11 +2,20 @@
 #include <memory>
 
 #include <QApplication>
+#include <QTimer>
 
 #include "desktop/icon.h"
 #include "desktop/look_style.h"
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
+
+namespace {
+
+// Milliseconds. The icon is painted in eight sizes, which takes as long as the whole first window:
+// that one shall stand first.
+constexpr int kIconAfter = 200;
+
+}  // namespace
 
 int main(int count, char** words) {
   QApplication::setDesktopSettingsAware(false);
@@ -14,11 +23,11 @@ int main(int count, char** words) {
   QApplication::setApplicationName(QStringLiteral("Orvane"));
   QApplication::setQuitOnLastWindowClosed(false);
   orvane::DressApplication(application);
-  QApplication::setWindowIcon(orvane::ProgramIcon());
 
   orvane::QtPlatform platform;
   const auto desk = std::make_unique<orvane::Orvane_Desk>(platform);
   orvane::Skin skin(*desk, platform);
   skin.ShowWindows();
+  QTimer::singleShot(kIconAfter, [] { QApplication::setWindowIcon(orvane::ProgramIcon()); });
   return QApplication::exec();
 }

@@ -23,8 +23,9 @@ void AddFont(std::span<const unsigned char> bytes) {
 
 void LoadType() {
   // The machine's own fonts are listed at the first question. Asked now, they cannot come later and
-  // take the place of ours with another cut of the same name.
-  (void)QFontDatabase::hasFamily(QStringLiteral("Inter"));
+  // take the place of ours with another cut of the same name. Of the questions there are, this one
+  // does not also work out what the machine would show in the place of a family that it lacks.
+  (void)QFontDatabase::isFixedPitch(QStringLiteral("Inter"));
   AddFont(embedded::inter_regular());
   AddFont(embedded::inter_medium());
   AddFont(embedded::inter_semibold());
