@@ -30,11 +30,18 @@ Indices Blank(int width, int height, GifByteType index) {
               static_cast<std::size_t>(width) * static_cast<std::size_t>(height), index)};
 }
 
+// Most pixels have the colour of the one before, which need not be looked up again.
 Indices IndicesOf(const Bitmap& picture) {
   GifColours colours;
   Indices indices = Blank(picture.Width, picture.Height, 0);
+  std::uint32_t last = 0;  // no opaque colour
+  GifByteType index = 0;
   std::transform(picture.Words.begin(), picture.Words.end(), indices.At.begin(),
-                 [&](std::uint32_t word) { return colours.IndexOf(word | 0xFF000000u); });
+                 [&](std::uint32_t word) {
+                   const std::uint32_t opaque = word | 0xFF000000u;
+                   if (opaque != last) index = colours.IndexOf(last = opaque);
+                   return index;
+                 });
   return indices;
 }
 
