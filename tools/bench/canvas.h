@@ -35,6 +35,11 @@ class Canvas {
   Raster raster_;
 };
 
+inline void MemsetOf(benchmark::State& state, int side) {
+  Canvas canvas(side);
+  for (auto unused : state) canvas.Fill();
+}
+
 inline void Memset(benchmark::State& state) {
   Canvas canvas;
   for (auto unused : state) canvas.Fill();

@@ -1,11 +1,9 @@
 // What the desk itself takes: selections, turns and repaints as lists of strokes, beside the raster
 // of what they draw and one memset of the surface.
-#include <cmath>
 #include <cstdio>
 
 #include "bench_desk.h"
 #include "canvas.h"
-#include "core/loader.h"
 #include "desk/actions.h"
 #include "draw/redraw_chain.h"
 #include "ratios.h"
@@ -98,29 +96,6 @@ void StereoTick(benchmark::State& state) {
 }
 BENCHMARK(StereoTick);
 
-// A chain of carbons that winds up like a spring, each bound to the next alone: 1.5 Angstrom apart.
-std::string SpringOf(int atoms) {
-  std::string text;
-  for (int i = 1; i <= atoms; ++i) {
-    char record[96];
-    std::snprintf(record, sizeof record, "ATOM%7d  %-3s %3s %c%4d    %8.3f%8.3f%8.3f ", i, "C",
-                  "GLY", ' ', 1, 5 * std::cos(0.25 * i), 5 * std::sin(0.25 * i), 0.85 * i - 200);
-    text += record;
-  }
-  return text;
-}
-
-// From a text to its picture as a list: every pair of atoms is looked at for a bond.
-void Load(benchmark::State& state) {
-  BenchDesk bench;
-  Molecule& molecule = bench.desk.molecule;
-  molecule.MolText = SpringOf(static_cast<int>(state.range(0)));
-  for (auto unused : state) LoadMolecule(bench.desk);
-  if (molecule.AtomCount != state.range(0)) state.SkipWithError("not all atoms were loaded");
-  if (molecule.BondCount != state.range(0) - 1) state.SkipWithError("the chain is not one chain");
-}
-BENCHMARK(Load)->Arg(5)->Arg(37)->Arg(149)->Arg(596);
-
 }  // namespace
 }  // namespace orvane::bench
 
@@ -143,6 +118,5 @@ int main(int argc, char** argv) {
   ratios.Print("stereo tick, lists alone / memset", "StereoTickList", "Memset");
   ratios.Print("selection of TRP, lists alone / one raster of it", "SelectTrp", "RasterTrp",
                {.AtMost = 10});
-  ratios.Print("load of 596 atoms / of 149, four times as many", "Load/596", "Load/149");
   return 0;
 }

@@ -53,8 +53,14 @@ void BothHalvesOfAStereoPair(benchmark::State& state) {
 }
 BENCHMARK(BothHalvesOfAStereoPair);
 
-void RepaintTwiceAsLarge(benchmark::State& state) { PaintAt(state, HeaviestScene(), 2 * kSide); }
-BENCHMARK(RepaintTwiceAsLarge);
+// Larger: a screen of twice the density, the desk maximised on 1920 by 1080, and both together.
+constexpr int kDense = 2 * kSide, kMaximised = 801, kMaximisedDense = 1603;
+void RepaintLarge(benchmark::State& state) {
+  PaintAt(state, HeaviestScene(), static_cast<int>(state.range(0)));
+}
+BENCHMARK(RepaintLarge)->Arg(kDense)->Arg(kMaximised)->Arg(kMaximisedDense);
+void MemsetLarge(benchmark::State& state) { MemsetOf(state, static_cast<int>(state.range(0))); }
+BENCHMARK(MemsetLarge)->Arg(kDense)->Arg(kMaximised)->Arg(kMaximisedDense);
 
 }  // namespace
 }  // namespace orvane::bench
@@ -70,5 +76,11 @@ int main(int argc, char** argv) {
   ratios.PrintTimes();
   ratios.Print("heaviest repaint, raster alone / memset", "Repaint", "Memset");
   ratios.Print("both halves of a stereo pair / memset", "BothHalvesOfAStereoPair", "Memset");
+  ratios.Print("raster at twice the density / memset of as much", "RepaintLarge/720",
+               "MemsetLarge/720", {.AtMost = 20});
+  ratios.Print("raster maximised at 1920x1080 / memset of as much", "RepaintLarge/801",
+               "MemsetLarge/801", {.AtMost = 20});
+  ratios.Print("the same at twice the density / memset of as much", "RepaintLarge/1603",
+               "MemsetLarge/1603", {.AtMost = 20});
   return 0;
 }

@@ -32,6 +32,12 @@ class Ratios : public benchmark::ConsoleReporter {
     }
   }
 
+  // The median time of a benchmark by its name; 0 when it did not run.
+  double Seconds(const std::string& name) const {
+    const auto found = times_.find(name);
+    return found == times_.end() ? 0 : Median(found->second);
+  }
+
   void PrintTimes() const {
     for (const auto& [name, times] : times_) {
       std::printf("%-52s %10.2f us\n", name.c_str(), 1e6 * Median(times));

@@ -1,0 +1,23 @@
+// Curves of time over atoms, both axes by powers of ten.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace orvane::bench {
+
+struct CurvePoint {
+  double Atoms, Microseconds;
+};
+struct Curve {
+  std::string Words, Colour;
+  std::vector<CurvePoint> Points;  // by rising atoms
+};
+
+// How steep the curve is between its last point but two and its last: 1 grows with the atoms, 2
+// with their square.
+double PowerAtTheEnd(const Curve& curve);
+
+std::string GrowthPicture(const std::vector<Curve>& curves);  // as SVG
+
+}  // namespace orvane::bench
