@@ -38,6 +38,7 @@ QImage Rastered(Skin& skin, const Picture& picture, QSize size) {
 QImage Grabbed(Skin& skin, Control& source) {
   WindowWidget& window = skin.WindowOf(source.Owner);
   const ControlView* view = window.ViewOf(source);
+  const Sight::Leaving leaving(skin.sight);
   if (view == nullptr) return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
   QImage image(view->Stand().Face.size(), QImage::Format_RGB32);
   image.setDevicePixelRatio(window.scale.Ratio);

@@ -63,7 +63,8 @@ void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect face = EnterPixels(painter);
   painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.drawImage(face.topLeft(), Pixels());
+  const bool of_molecule = &control.Owner == &host.skin.desk.main;
+  painter.drawImage(face.topLeft(), of_molecule ? host.skin.sight.Shown(Pixels()) : Pixels());
 }
 
 void PictureWidget::mousePressEvent(QMouseEvent* event) {

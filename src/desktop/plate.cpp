@@ -130,7 +130,8 @@ void Plate::PaintSwatch(QPainter& painter, const QRect& face) {
   const Colour colour = control.BackColor;
   const double corner = dress_.Corner * Unit();
   const int edge = host.scale.Edge();
-  const QColor fill(Red(colour), Green(colour), Blue(colour));
+  // As the picture will show it.
+  const QColor fill(host.skin.sight.Shown(qRgb(Red(colour), Green(colour), Blue(colour))));
   const auto mixed = [](int part) { return static_cast<int>(part * 0.57); };
   PaintPlate(painter, face, fill.rgb(),
              qRgb(mixed(fill.red()), mixed(fill.green()), mixed(fill.blue())), corner, edge);

@@ -126,6 +126,7 @@ void DrawWindow(QPainter& painter, const QRectF& paper, int dots, Skin& skin, Wi
   // A maximised window shows its plan as large as it is. A change of size would end that state.
   again.setWindowState(Qt::WindowMaximized);
   again.LayAll();
+  const Sight::Leaving leaving(skin.sight);
   painter.drawImage(sheet.Area, again.grab().toImage());
 }
 

@@ -47,7 +47,11 @@ void Skin::ShowWindows() {
 
 WindowWidget& Skin::WindowOf(Window& window) {
   std::unique_ptr<WindowWidget>& widget = windows_[&window];
-  if (widget == nullptr) widget = std::make_unique<WindowWidget>(*this, window);
+  if (widget != nullptr) return *widget;
+  widget = std::make_unique<WindowWidget>(*this, window);
+  if (&window == &desk.main) {
+    GiveSightItsKey(sight, *widget, widget->ViewOf(desk.main.Picture1)->widget);
+  }
   return *widget;
 }
 

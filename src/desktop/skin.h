@@ -13,6 +13,7 @@
 #include "controls/window.h"
 #include "desk/orvane_desk.h"
 #include "desktop/qt_platform.h"
+#include "desktop/sight.h"
 #include "desktop/ticker.h"
 #include "draw/raster.h"
 
@@ -28,6 +29,7 @@ class Skin : public ControlWatcher {
   Orvane_Desk& desk;
   QtPlatform& platform;
   Raster raster;  // shared by all pictures, for what it keeps between paints
+  Sight sight{desk};
 
   void Changed(Control& control, Aspect aspect) override;
 

@@ -1,0 +1,59 @@
+#include "desktop/sight.h"
+
+#include <QShortcut>
+#include <QToolTip>
+
+namespace orvane {
+namespace {
+
+constexpr int kTipStays = 3000;  // milliseconds
+
+}  // namespace
+
+void Sight::Next() {
+  const std::size_t next = eye_.has_value() ? IndexOf(*eye_) + 1 : 0;
+  eye_ = next < kEyes.size() ? std::optional(kEyes[next]) : std::nullopt;
+  filter_.reset();
+  if (eye_.has_value()) filter_.emplace(*eye_);
+}
+
+QString Sight::Words() const {
+  if (!eye_.has_value()) return QStringLiteral("Colours as they are");
+  const std::string_view name = NameOf(*eye_);
+  return QStringLiteral("Colours for %1 eyes, on the screen only")
+      .arg(QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
+}
+
+bool Sight::Filters() const {
+  return filter_.has_value() && leaving_ == 0 && !IsForGlasses(desk.stereo);
+}
+
+const QImage& Sight::Shown(const QImage& picture) {
+  if (!Filters()) return picture;
+  shown_ = picture.copy();
+  const auto words = static_cast<std::size_t>(shown_.bytesPerLine() / 4) *
+                     static_cast<std::size_t>(shown_.height());
+  filter_->Apply(reinterpret_cast<std::uint32_t*>(shown_.bits()), words);
+  return shown_;
+}
+
+QRgb Sight::Shown(QRgb colour) const {
+  if (!Filters()) return colour;
+  const Colour shown = filter_->Shown(Rgb(qRed(colour), qGreen(colour), qBlue(colour)));
+  return qRgb(Red(shown), Green(shown), Blue(shown));
+}
+
+void GiveSightItsKey(Sight& sight, QWidget& window, QWidget& picture) {
+  auto* key = new QShortcut(Qt::Key_F8, &window);
+  QObject::connect(key, &QShortcut::activated, &picture, [&] { TurnSight(sight, picture); });
+}
+
+void TurnSight(Sight& sight, QWidget& picture) {
+  sight.Next();
+  QWidget& window = *picture.window();
+  window.update();
+  for (QWidget* part : window.findChildren<QWidget*>()) part->update();
+  QToolTip::showText(picture.mapToGlobal(QPoint(8, 8)), sight.Words(), &picture, {}, kTipStays);
+}
+
+}  // namespace orvane
