@@ -21,6 +21,8 @@ int main(int count, char** words) {
   QApplication::setDesktopSettingsAware(false);
   QApplication application(count, words);
   QApplication::setApplicationName(QStringLiteral("Orvane"));
+  // The entry that gives the window its icon where windows have none of their own.
+  QGuiApplication::setDesktopFileName(QStringLiteral("orvane"));
   QApplication::setQuitOnLastWindowClosed(false);
   orvane::DressApplication(application);
 

@@ -25,6 +25,9 @@ namespace {
 
 constexpr int kStripHeight = 300;  // twips
 
+// What a window manager's frame may take of the screen, in the toolkit's pixels.
+constexpr QSize kFrame(8, 40);
+
 QSize PlanSize(const Window& window) {
   const Place at = window.Row.At;
   return {at.Width / TwipsPerPixel, at.Height / TwipsPerPixel};
@@ -63,10 +66,7 @@ void Ground::mousePressEvent(QMouseEvent* event) { event->accept(); }
 WindowWidget::WindowWidget(Skin& of, Window& window) : skin(of), shown(window) {
   setObjectName(QString::fromStdString(shown.Name));
   setWindowTitle(QString::fromStdString(shown.Caption));
-  setMinimumSize(PlanSize(shown));
-  resize(PlanSize(shown));
-  // Only a window that answers to another size can get one.
-  if (!shown.Handles(EventKind::Resize)) setFixedSize(PlanSize(shown));
+  FitTheScreen();
   desk_ = new Ground(*this);
   flyout = new Flyout(*this, *desk_);
   MakeWidgets();
@@ -115,7 +115,7 @@ void WindowWidget::TakeWindow(Aspect aspect) {
     case Aspect::Place:
       if (StateOf(*this) == WindowState::Normal) {
         const Place at = shown.At;
-        resize(at.Width / TwipsPerPixel, at.Height / TwipsPerPixel);
+        resize((QSizeF(at.Width, at.Height) * NormalFactor() / TwipsPerPixel).toSize());
         move(at.Left / TwipsPerPixel, at.Top / TwipsPerPixel);
       }
       break;
@@ -134,7 +134,7 @@ void WindowWidget::LayAll() {
   const bool large = StateOf(*this) == WindowState::Maximised;
   scale.Factor = large ? std::min(static_cast<double>(width()) / plan.width(),
                                   static_cast<double>(height()) / plan.height())
-                       : 1;
+                       : NormalFactor();
   scale.Ratio = devicePixelRatioF();
   const QSize desk(static_cast<int>(std::lround(plan.width() * scale.Factor)),
                    static_cast<int>(std::lround(plan.height() * scale.Factor)));
@@ -164,15 +164,39 @@ void WindowWidget::resizeEvent(QResizeEvent* event) {
 void WindowWidget::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   if (event->spontaneous()) return;
+  FitTheScreen();
   LayAll();
   if (StateOf(*this) == WindowState::Normal) StandOnScreen();
-  connect(windowHandle(), &QWindow::screenChanged, this, [this] { LayAll(); });
+  connect(windowHandle(), &QWindow::screenChanged, this, [this] {
+    FitTheScreen();
+    LayAll();
+  });
 }
 
 void WindowWidget::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) LayAll();
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) SizeTips(scale.Factor);
+}
+
+// 1, or less on a screen that is too small for the window: nothing of it is ever cut off.
+double WindowWidget::NormalFactor() const {
+  const QSize room = screen()->availableGeometry().size() - kFrame;
+  const QSize plan = PlanSize(shown);
+  return std::min({1.0, static_cast<double>(room.width()) / plan.width(),
+                   static_cast<double>(room.height()) / plan.height()});
+}
+
+QSize WindowWidget::NormalSize() const {
+  return (QSizeF(PlanSize(shown)) * NormalFactor()).toSize();
+}
+
+void WindowWidget::FitTheScreen() {
+  const QSize size = NormalSize();
+  setMinimumSize(size);
+  // Only a window that answers to another size can get one.
+  if (!shown.Handles(EventKind::Resize)) setMaximumSize(size);
+  if (StateOf(*this) == WindowState::Normal) resize(size);
 }
 
 void WindowWidget::StandOnScreen() {

@@ -67,6 +67,9 @@ class WindowWidget : public QWidget {
   void TakeWindow(Aspect aspect);
   void SetTabOrder();
   void StandOnScreen();
+  void FitTheScreen();
+  double NormalFactor() const;
+  QSize NormalSize() const;
 
   Ground* desk_;
   bool stood_ = false;  // has been on the screen before
