@@ -51,6 +51,9 @@ QPalette OwnPalette() {
   return colours;
 }
 
+// Of the tips as they are set now.
+double TipFactor() { return static_cast<double>(QToolTip::font().pixelSize()) / kTipType.Size; }
+
 QString MenuText(const QStyleOptionMenuItem& item) { return item.text.section(u'\t', 0, 0); }
 
 // Device pixels, so that edges are crisp at every density.
@@ -220,7 +223,7 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_SubMenuOverlap:
       return 0;
     case PM_ToolTipLabelFrameWidth:
-      return kTipPad - 1;
+      return static_cast<int>(std::lround(kTipPad * TipFactor())) - 1;
     default:
       return QProxyStyle::pixelMetric(metric, option, widget);
   }
@@ -239,7 +242,8 @@ int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
       auto* mask = qstyleoption_cast<QStyleHintReturnMask*>(data);
       if (mask == nullptr) return 0;
       QPainterPath round;
-      round.addRoundedRect(option->rect, kTipCorner, kTipCorner);
+      const double corner = kTipCorner * TipFactor();
+      round.addRoundedRect(option->rect, corner, corner);
       mask->region = QRegion(round.toFillPolygon().toPolygon());
       return 1;
     }
