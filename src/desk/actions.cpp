@@ -1,6 +1,9 @@
 #include "desk/actions.h"
 
+#include <new>
+
 #include "runtime/failure.h"
+#include "runtime/no_memory.h"
 
 namespace orvane {
 namespace {
@@ -18,7 +21,37 @@ std::string CommandName(const Control& control) {
   if (!control.Row.Spoken.empty()) return std::string(control.Row.Spoken);
   const std::string caption = WithoutMnemonic(control.Caption.Get());
   const auto first = caption.find_first_not_of(' ');
-  return first == std::string::npos ? control.FullName() : caption.substr(first);
+  if (first != std::string::npos) return caption.substr(first);
+  if (&control == &control.Owner) return control.Name;
+  // One of many without words, as the swatches are: they go by what holds them.
+  return CommandName(control.Parent != nullptr ? *control.Parent : control.Owner);
+}
+
+// Said where there is no memory for more words.
+constexpr std::string_view kNothingLeft =
+    "The command could not be finished: there is not enough memory.";
+
+enum class Outcome { Done, Failed, NoMemory };
+
+// What goes wrong while a failure is told of cannot be told in its turn.
+template <class Step>
+Outcome Try(Step step) {
+  try {
+    step();
+    return Outcome::Done;
+  } catch (const Failure&) {
+    return Outcome::Failed;
+  } catch (const std::bad_alloc&) {
+    return Outcome::NoMemory;
+  }
+}
+
+void EndInABox(Orvane_Desk& desk, Control& control, const char* clause) {
+  Try([&] { control.Raise({.Kind = EventKind::Failed}); });
+  const Outcome told = Try([&] {
+    desk.platform.FailureBox(CommandName(control) + " could not be finished: " + clause + ".");
+  });
+  if (told == Outcome::NoMemory) Try([&] { desk.platform.FailureBox(kNothingLeft); });
 }
 
 // The one place that catches a failure. What the operation had done so far stays done.
@@ -27,9 +60,9 @@ void RunToItsEnd(Orvane_Desk& desk, Control& control, Operation operation) {
   try {
     operation();
   } catch (const Failure& failure) {
-    control.Raise({.Kind = EventKind::Failed});
-    desk.platform.FailureBox(CommandName(control) + " could not be finished: " + failure.what() +
-                             ".");
+    EndInABox(desk, control, failure.what());
+  } catch (const std::bad_alloc&) {
+    EndInABox(desk, control, kNoMemory);
   }
 }
 
@@ -55,8 +88,10 @@ void DoubleClick(Orvane_Desk& desk, Control& control, Reach reach) {
 void SelectRow(Orvane_Desk& desk, List& list, int row, Reach reach) {
   if (!MayAct(list, reach)) return;
   const bool is_row = row >= 0 && row < static_cast<int>(list.Rows.Get().size());
-  list.ListIndex = is_row ? row : -1;
-  RunToItsEnd(desk, list, [&] { list.Raise({.Kind = EventKind::Click}); });
+  RunToItsEnd(desk, list, [&] {
+    list.ListIndex = is_row ? row : -1;
+    list.Raise({.Kind = EventKind::Click});
+  });
 }
 
 void Press(Orvane_Desk& desk, Control& control, int button, float x, float y, Reach reach) {
@@ -95,8 +130,8 @@ void DropBar(Orvane_Desk& desk, ScrollBar& bar, Reach reach) {
 }
 
 void TypeText(Orvane_Desk& desk, TextBox& box, std::string_view text, Reach reach) {
-  (void)desk;
-  if (MayAct(box, reach)) box.Text = std::string(text);
+  if (!MayAct(box, reach)) return;
+  RunToItsEnd(desk, box, [&] { box.Text = std::string(text); });
 }
 
 void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach) {
@@ -104,9 +139,11 @@ void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach) {
 }
 
 void Resize(Orvane_Desk& desk, Window& window, Place now, WindowState state) {
-  window.State = state;
-  window.At = now;
-  RunToItsEnd(desk, window, [&] { window.Raise({.Kind = EventKind::Resize}); });
+  RunToItsEnd(desk, window, [&] {
+    window.State = state;
+    window.At = now;
+    window.Raise({.Kind = EventKind::Resize});
+  });
 }
 
 void CloseWindow(Orvane_Desk& desk, Window& window) {
@@ -115,13 +152,15 @@ void CloseWindow(Orvane_Desk& desk, Window& window) {
 
 void OpenFolder(Orvane_Desk& desk, FileList& list, std::string_view path) {
   if (!list.IsOpenToUser()) return;
-  list.Path = std::string(path);
-  RunToItsEnd(desk, list, [&] { list.Raise({.Kind = EventKind::Change}); });
+  RunToItsEnd(desk, list, [&] {
+    list.Path = std::string(path);
+    list.Raise({.Kind = EventKind::Change});
+  });
 }
 
 void ChooseFile(Orvane_Desk& desk, FileList& list, std::string_view name) {
-  (void)desk;
-  if (list.IsOpenToUser()) list.FileName = std::string(name);
+  if (!list.IsOpenToUser()) return;
+  RunToItsEnd(desk, list, [&] { list.FileName = std::string(name); });
 }
 
 void Tick(Orvane_Desk& desk, Timer& timer, Reach reach) {

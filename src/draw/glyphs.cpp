@@ -75,10 +75,16 @@ void Labels::BeginPaint() {
   if (labels_.size() > kMostLabels) labels_.clear();
 }
 
+// Kept only once it is whole: it may be more than there is memory for.
 const Label& Labels::Of(std::string_view text, double scale) {
-  const auto [found, is_new] = labels_.try_emplace(Key{std::string(text), scale});
-  Label& label = found->second;
-  if (!is_new) return label;
+  Key key{std::string(text), scale};
+  const auto found = labels_.find(key);
+  if (found != labels_.end()) return found->second;
+  return labels_.emplace(std::move(key), Drawn(text, scale)).first->second;
+}
+
+Label Labels::Drawn(std::string_view text, double scale) const {
+  Label label;
   const double size = std::min(kTypeSize * scale, kLargestType);
   const std::vector<Placed> glyphs = type_->Place(text, size);
   if (glyphs.empty()) return label;

@@ -48,6 +48,8 @@ class Labels {
     }
   };
 
+  Label Drawn(std::string_view text, double scale) const;
+
   std::unique_ptr<Type> type_;
   std::unordered_map<Key, Label, Hash> labels_;
 };

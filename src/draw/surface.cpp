@@ -13,6 +13,16 @@ namespace {
 constexpr std::size_t kMostSpares = 4;
 constexpr std::size_t kFewestTextSlots = 256;
 
+// Takes a stroke back for whose text there was no memory.
+struct NotWithoutText {
+  std::vector<Stroke>& Strokes;
+  bool Has = false;
+
+  ~NotWithoutText() {
+    if (!Has) Strokes.pop_back();
+  }
+};
+
 }  // namespace
 
 PictureBox::PictureBox(Window& window, std::string_view name, int width, int height)
@@ -21,6 +31,7 @@ PictureBox::PictureBox(Window& window, std::string_view name, int width, int hei
       text_slots_(kFewestTextSlots, 0) {
   content_->Width = width;
   content_->Height = height;
+  spares_.reserve(kMostSpares);
 }
 
 void PictureBox::ResetSurface(std::shared_ptr<const Bitmap> picture, int background) {
@@ -71,10 +82,12 @@ void PictureBox::Circle(double x, double y, double radius, Colour outline) {
 
 void PictureBox::Print(std::string_view text) {
   Stroke& stroke = Append(StrokeKind::Print);
+  NotWithoutText text_follows{content_->Strokes};
   stroke.X1 = static_cast<float>(CurrentX);
   stroke.Y1 = static_cast<float>(CurrentY);
   stroke.Ink = ForeColor;
   stroke.Text = IndexOf(text);
+  text_follows.Has = true;
   TellDrawn(stroke, text);
 }
 

@@ -5,8 +5,12 @@
 #include <cstring>
 #include <gif_lib.h>
 #include <memory>
+#include <new>
+#include <utility>
 
+#include "output/gif_bounds.h"
 #include "output/gif_palette.h"
+#include "runtime/no_memory.h"
 
 namespace orvane {
 namespace {
@@ -54,11 +58,42 @@ Indices Grown(const Indices& indices, int width, int height, GifByteType index) 
   return grown;
 }
 
+struct Target {
+  FileBytes Bytes;
+  bool IsWhole = true;
+};
+
+// The library is written in C, so nothing may be thrown through it; nor does it look at each
+// answer.
 int AppendTo(GifFileType* file, const GifByteType* bytes, int count) {
-  auto& all = *static_cast<FileBytes*>(file->UserData);
-  all.insert(all.end(), bytes, bytes + count);
-  return count;
+  auto& target = *static_cast<Target*>(file->UserData);
+  try {
+    target.Bytes.insert(target.Bytes.end(), bytes, bytes + count);
+  } catch (const std::bad_alloc&) {
+    target.IsWhole = false;
+  }
+  return target.IsWhole ? count : 0;
 }
+
+// What the library made, or did. In memory it fails for want of more alone.
+template <class T>
+T* Made(T* thing) {
+  if (thing == nullptr) FailMemory();
+  return thing;
+}
+void Done(int result) {
+  if (result != GIF_OK) FailMemory();
+}
+
+// The frames of a file that is not open.
+struct Frames {
+  GifFileType Gif{};
+
+  Frames() = default;
+  Frames(const Frames&) = delete;
+  Frames& operator=(const Frames&) = delete;
+  ~Frames() { GifFreeSavedImages(&Gif); }
+};
 
 struct Source {
   std::span<const unsigned char> Bytes;
@@ -77,43 +112,48 @@ int ReadFrom(GifFileType* file, GifByteType* bytes, int count) {
 struct CloseReading {
   void operator()(GifFileType* file) const { DGifCloseFile(file, nullptr); }
 };
+struct CloseWriting {
+  void operator()(GifFileType* file) const { EGifCloseFile(file, nullptr); }
+};
 using ReadGif = std::unique_ptr<GifFileType, CloseReading>;
 
-// nullptr: no GIF, or one that is cut short.
+// nullptr: no GIF, or one that is cut short, or one that claims to be of no screen's size.
 ReadGif Read(Source& source) {
+  if (!IsWithinBounds(source.Bytes)) return nullptr;
   ReadGif gif(DGifOpen(&source, ReadFrom, nullptr));
   if (gif != nullptr && DGifSlurp(gif.get()) != GIF_OK) gif.reset();
   return gif;
 }
 
-// The frames and blocks of `gif` on a screen of that size. The library cannot fail here: what it
-// writes to is memory.
+// The frames and blocks of `gif` on a screen of that size.
 FileBytes Written(const GifFileType& gif, int width, int height) {
-  FileBytes bytes;
+  Target target;
   std::array<GifColorType, 256> colours{};
   for (std::size_t i = 0; i < colours.size(); ++i) {
     const std::uint32_t word = GifPalette()[i];
     colours[i] = {static_cast<GifByteType>(word >> 16), static_cast<GifByteType>(word >> 8),
                   static_cast<GifByteType>(word)};
   }
-  GifFileType* file = EGifOpen(&bytes, AppendTo, nullptr);
+  std::unique_ptr<GifFileType, CloseWriting> file(Made(EGifOpen(&target, AppendTo, nullptr)));
   file->SWidth = width;
   file->SHeight = height;
   file->SColorResolution = 8;
-  file->SColorMap = GifMakeMapObject(static_cast<int>(colours.size()), colours.data());
+  file->SColorMap = Made(GifMakeMapObject(static_cast<int>(colours.size()), colours.data()));
   file->SavedImages = gif.SavedImages;  // lent: writing neither changes nor frees them
   file->ImageCount = gif.ImageCount;
-  EGifSpew(file);
-  return bytes;
+  Done(EGifSpew(file.get()));
+  file.release();  // writing to the end has closed it
+  if (!target.IsWhole) FailMemory();
+  return std::move(target.Bytes);
 }
 
 void AddLooping(SavedImage& first) {
   GifByteType name[] = "NETSCAPE2.0";
   GifByteType for_ever[] = {1, 0, 0};
-  GifAddExtensionBlock(&first.ExtensionBlockCount, &first.ExtensionBlocks,
-                       APPLICATION_EXT_FUNC_CODE, sizeof name - 1, name);
-  GifAddExtensionBlock(&first.ExtensionBlockCount, &first.ExtensionBlocks, CONTINUE_EXT_FUNC_CODE,
-                       sizeof for_ever, for_ever);
+  Done(GifAddExtensionBlock(&first.ExtensionBlockCount, &first.ExtensionBlocks,
+                            APPLICATION_EXT_FUNC_CODE, sizeof name - 1, name));
+  Done(GifAddExtensionBlock(&first.ExtensionBlockCount, &first.ExtensionBlocks,
+                            CONTINUE_EXT_FUNC_CODE, sizeof for_ever, for_ever));
 }
 
 void AddDelay(SavedImage& frame, int transparent) {
@@ -123,16 +163,17 @@ void AddDelay(SavedImage& frame, int transparent) {
                                      .TransparentColor = transparent};
   GifByteType packed[4];
   EGifGCBToExtension(&control, packed);
-  GifAddExtensionBlock(&frame.ExtensionBlockCount, &frame.ExtensionBlocks, GRAPHICS_EXT_FUNC_CODE,
-                       sizeof packed, packed);
+  Done(GifAddExtensionBlock(&frame.ExtensionBlockCount, &frame.ExtensionBlocks,
+                            GRAPHICS_EXT_FUNC_CODE, sizeof packed, packed));
 }
 
 SavedImage& AddImage(GifFileType& gif, const Indices& pixels, const Box& box) {
-  SavedImage& image = *GifMakeSavedImage(&gif, nullptr);
+  SavedImage& image = *Made(GifMakeSavedImage(&gif, nullptr));
   image.ImageDesc = {box.Left, box.Top, box.Width, box.Height, false, nullptr};
   const std::size_t count =
       static_cast<std::size_t>(box.Width) * static_cast<std::size_t>(box.Height);
-  image.RasterBits = static_cast<GifByteType*>(std::malloc(count));  // the library frees it
+  // The library frees it.
+  image.RasterBits = Made(static_cast<GifByteType*>(std::malloc(count)));
   for (int y = 0; y < box.Height; ++y) {
     std::copy_n(pixels.Row(box.Top + y) + box.Left, box.Width,
                 image.RasterBits + static_cast<std::ptrdiff_t>(y) * box.Width);
@@ -141,15 +182,14 @@ SavedImage& AddImage(GifFileType& gif, const Indices& pixels, const Box& box) {
 }
 
 FileBytes FirstOf(const Bitmap& picture, bool animated) {
-  GifFileType gif{};
-  SavedImage& image = AddImage(gif, IndicesOf(picture), {0, 0, picture.Width, picture.Height});
+  Frames frames;
+  SavedImage& image =
+      AddImage(frames.Gif, IndicesOf(picture), {0, 0, picture.Width, picture.Height});
   if (animated) {
     AddLooping(image);
     AddDelay(image, NO_TRANSPARENT_COLOR);
   }
-  FileBytes bytes = Written(gif, picture.Width, picture.Height);
-  GifFreeSavedImages(&gif);
-  return bytes;
+  return Written(frames.Gif, picture.Width, picture.Height);
 }
 
 bool HasOurPalette(const GifFileType& gif) {
@@ -165,13 +205,10 @@ bool HasOurPalette(const GifFileType& gif) {
   return true;
 }
 
-// Each frame as we write them: in the file's palette, inside its screen.
+// Each frame as we write them, in the file's palette. Inside its screen they are.
 bool FramesAreOurs(const GifFileType& gif) {
-  return std::all_of(gif.SavedImages, gif.SavedImages + gif.ImageCount, [&](const SavedImage& i) {
-    const GifImageDesc& at = i.ImageDesc;
-    return at.ColorMap == nullptr && at.Left + at.Width <= gif.SWidth &&
-           at.Top + at.Height <= gif.SHeight;
-  });
+  return std::all_of(gif.SavedImages, gif.SavedImages + gif.ImageCount,
+                     [](const SavedImage& i) { return i.ImageDesc.ColorMap == nullptr; });
 }
 
 // What is on the screen when all frames have been drawn.

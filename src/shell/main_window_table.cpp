@@ -254,7 +254,7 @@ constexpr auto kRows = std::to_array<ControlRow>({
      .Tip = "Choose a folder", .Spoken = "Folders", .TabStop = 40},
     {.Name = "File1", .Kind = FileList, .Parent = "P_Dir_Holder", .At = {2160, 915, 1860, 2445},
      .Tip = "Play a file by a double click", .Spoken = "Sound files", .TabStop = 41},
-    {.Name = "Timer1", .Kind = Timer, .Enabled = false},
+    {.Name = "Timer1", .Kind = Timer, .Enabled = false, .Spoken = "Auto Rotate"},
 });
 // clang-format on
 

@@ -236,6 +236,34 @@ TEST(GifAnimation, IsNotAddedToWhenItIsCutShortAnywhere) {
   }
 }
 
+// A header is 13 bytes, its width at 6; 256 colours follow, then two extensions of 19 and 8 bytes,
+// then the frame, its place at 1 and its size at 5.
+TEST(GifAnimation, IsNotAddedToAFileThatClaimsMoreThanAnyScreenHas) {
+  const FileBytes film = AnimationOf(Plain(8, 6, kPalette15));
+  constexpr std::size_t kFrame = 13 + 3 * 256 + 19 + 8;
+  ASSERT_EQ(film[kFrame], 0x2C);
+  const auto with = [&](std::initializer_list<std::pair<std::size_t, unsigned>> words) {
+    FileBytes changed = film;
+    for (const auto& [at, word] : words) {
+      changed[at] = static_cast<unsigned char>(word);
+      changed[at + 1] = static_cast<unsigned char>(word >> 8);
+    }
+    return changed;
+  };
+  const Bitmap next = Plain(8, 6, kPalette0);
+  ASSERT_TRUE(WithOneMoreFrame(with({}), next).has_value());
+  // 8192 by 8193 pixels are more than 2^26.
+  EXPECT_TRUE(WithOneMoreFrame(with({{6, 512}, {8, 512}}), next).has_value());
+  EXPECT_FALSE(WithOneMoreFrame(with({{6, 8192}, {8, 8193}}), next).has_value());
+  // A frame of 8 by 6 whose left edge or whose width takes it past a screen of 8.
+  EXPECT_FALSE(WithOneMoreFrame(with({{kFrame + 1, 1}}), next).has_value());
+  EXPECT_FALSE(WithOneMoreFrame(with({{kFrame + 5, 9}}), next).has_value());
+  // All of the largest screen in one frame, of which there are 48 pixels.
+  EXPECT_FALSE(
+      WithOneMoreFrame(with({{6, 8192}, {8, 8192}, {kFrame + 5, 8192}, {kFrame + 7, 8192}}), next)
+          .has_value());
+}
+
 TEST(GifAnimation, IsNotAddedToAGifOfOtherColours) {
   FileBytes other = AnimationOf(EveryColour());
   ++other[13 + 3];  // the first part of colour 1; the palette stands behind 13 bytes of heading

@@ -216,24 +216,30 @@ std::string UnreadablePicture(const Orvane_Desk& desk) {
 
 }  // namespace
 
-std::string WhatIsWrong(Session& session, LastSeen& last, bool thorough) {
-  const Orvane_Desk& desk = session.Desk();
-  const bool may_have_loaded = std::exchange(session.MayHaveLoaded, false) || last.Checks == 0;
-  const bool may_have_lost_axis = std::exchange(session.MayHaveLostAxis, false);
+std::string WhatIsWrong(const Orvane_Desk& desk, Freedom freedom, LastSeen& last, bool thorough) {
+  const bool is_first = last.Checks == 0;
   ++last.Checks;
 
   const std::uint64_t as_read = DigestOfAsRead(desk.molecule);
   const bool changed = std::exchange(last.AsRead, as_read) != as_read;
-  if (changed && !may_have_loaded) return "the coordinates as read have changed without a load";
+  if (changed && !freedom.MayHaveLoaded && !is_first) {
+    return "the coordinates as read have changed without a load";
+  }
 
   std::string wrong = OutsideBounds(desk);
   if (wrong.empty()) wrong = UnknownCaption(desk.main);
   if (wrong.empty()) wrong = WrongBond(desk.molecule);
-  if (wrong.empty()) wrong = WrongAxis(desk.view, may_have_lost_axis, last);
+  if (wrong.empty()) wrong = WrongAxis(desk.view, freedom.MayHaveLostAxis, last);
   if (wrong.empty()) wrong = NoNumber(desk.molecule, last);
   if (wrong.empty()) wrong = OutsideItsRange(desk);
   if (wrong.empty() && thorough) wrong = UnreadablePicture(desk);
   return wrong;
+}
+
+std::string WhatIsWrong(Session& session, LastSeen& last, bool thorough) {
+  const Freedom freedom{std::exchange(session.MayHaveLoaded, false),
+                        std::exchange(session.MayHaveLostAxis, false)};
+  return WhatIsWrong(session.Desk(), freedom, last, thorough);
 }
 
 }  // namespace orvane

@@ -4,9 +4,16 @@
 #include <cstdint>
 #include <string>
 
+#include "desk/orvane_desk.h"
 #include "random_desk/session.h"
 
 namespace orvane {
+
+// What the actions since the check before were free to change.
+struct Freedom {
+  bool MayHaveLoaded = false;    // a structure was read
+  bool MayHaveLostAxis = false;  // a button let go over the picture puts a saved axis back
+};
 
 // What the check before found, for what an action may not change.
 struct LastSeen {
@@ -17,6 +24,7 @@ struct LastSeen {
 };
 
 // Empty: all is well; else the first thing that is not. `thorough` reads every picture, too.
+std::string WhatIsWrong(const Orvane_Desk& desk, Freedom freedom, LastSeen& last, bool thorough);
 std::string WhatIsWrong(Session& session, LastSeen& last, bool thorough);
 
 }  // namespace orvane

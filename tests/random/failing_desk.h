@@ -1,0 +1,32 @@
+// A desk whose outside world may fail, and what is to hold afterwards.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "random/every_command.h"
+#include "random/failing_platform.h"
+#include "random_desk/always.h"
+
+namespace orvane {
+
+struct FailingDesk {
+  FailingPlatform platform;
+  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(platform);
+  Orvane_Desk& desk = *owned;
+  LastSeen last;
+
+  explicit FailingDesk(const Situation& situation);
+
+  std::string Wrong() { return WhatIsWrong(desk, {true, true}, last, true); }
+  int Count(std::string_view beginning) const;  // of the effects
+};
+
+// One box, and nothing in it but words: "Reset could not be finished: the disk is full."
+void ExpectPlainBox(const FailingDesk& work, const std::string& clause);
+
+// What a student does next: the same again, another structure, a turn, a save.
+void ExpectToGoOn(FailingDesk& work, const Command& command);
+
+}  // namespace orvane
