@@ -22,6 +22,14 @@ if(ORVANE_SANITIZE)
   target_link_options(orvane_options INTERFACE -fsanitize=${ORVANE_SANITIZE})
 endif()
 
+# The compiler counts for the fuzzer which ways the program has gone; only a fuzzer links its main.
+if(ORVANE_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "The fuzzers are built by Clang: use the preset fuzz.")
+  endif()
+  target_compile_options(orvane_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 find_program(CCACHE ccache)
 if(CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
