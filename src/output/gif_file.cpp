@@ -115,6 +115,9 @@ struct CloseReading {
 struct CloseWriting {
   void operator()(GifFileType* file) const { EGifCloseFile(file, nullptr); }
 };
+struct FreeMap {
+  void operator()(ColorMapObject* map) const { GifFreeMapObject(map); }
+};
 using ReadGif = std::unique_ptr<GifFileType, CloseReading>;
 
 // nullptr: no GIF, or one that is cut short, or one that claims to be of no screen's size.
@@ -138,11 +141,18 @@ FileBytes Written(const GifFileType& gif, int width, int height) {
   file->SWidth = width;
   file->SHeight = height;
   file->SColorResolution = 8;
-  file->SColorMap = Made(GifMakeMapObject(static_cast<int>(colours.size()), colours.data()));
-  file->SavedImages = gif.SavedImages;  // lent: writing neither changes nor frees them
+  const std::unique_ptr<ColorMapObject, FreeMap> map(
+      Made(GifMakeMapObject(static_cast<int>(colours.size()), colours.data())));
+  file->SColorMap = map.get();          // lent: writing puts a copy in its place,
+  file->SavedImages = gif.SavedImages;  // and neither changes nor frees these
   file->ImageCount = gif.ImageCount;
-  Done(EGifSpew(file.get()));
-  file.release();  // writing to the end has closed it
+  const int result = EGifSpew(file.get());
+  if (result == GIF_OK) {
+    file.release();  // writing to the end has closed it
+  } else if (file->SColorMap == map.get()) {
+    file->SColorMap = nullptr;
+  }
+  Done(result);
   if (!target.IsWhole) FailMemory();
   return std::move(target.Bytes);
 }
