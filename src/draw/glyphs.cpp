@@ -76,15 +76,15 @@ void Labels::BeginPaint() {
 }
 
 // Kept only once it is whole: it may be more than there is memory for.
-const Label& Labels::Of(std::string_view text, double scale) {
+const LabelInk& Labels::Of(std::string_view text, double scale) {
   Key key{std::string(text), scale};
   const auto found = labels_.find(key);
   if (found != labels_.end()) return found->second;
   return labels_.emplace(std::move(key), Drawn(text, scale)).first->second;
 }
 
-Label Labels::Drawn(std::string_view text, double scale) const {
-  Label label;
+LabelInk Labels::Drawn(std::string_view text, double scale) const {
+  LabelInk label;
   const double size = std::min(kTypeSize * scale, kLargestType);
   const std::vector<Placed> glyphs = type_->Place(text, size);
   if (glyphs.empty()) return label;
@@ -115,7 +115,7 @@ Label Labels::Drawn(std::string_view text, double scale) const {
   return label;
 }
 
-void DrawLabel(const Canvas& canvas, int x, int y, const Label& label, Colour colour) {
+void DrawLabel(const Canvas& canvas, int x, int y, const LabelInk& label, Colour colour) {
   const Channels ink = Split(Words4{} + WordOf(colour));
   const int left = x + label.Left;
   const int top = y + label.Top;

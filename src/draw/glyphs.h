@@ -16,7 +16,7 @@ namespace orvane {
 inline constexpr double kTypeSize = 11;  // surface pixels
 
 // The ink of one text.
-struct Label {
+struct LabelInk {
   int Left = 0, Top = 0;      // from the top left of the first character cell
   int Width = 0, Height = 0;  // of the ink
   int Stride = 0;             // words to a row, with empty ones behind the ink
@@ -31,7 +31,7 @@ class Labels {
   ~Labels();
 
   // The label stays until the next BeginPaint.
-  const Label& Of(std::string_view text, double scale);
+  const LabelInk& Of(std::string_view text, double scale);
   // Drops all labels when they have become many.
   void BeginPaint();
 
@@ -48,13 +48,13 @@ class Labels {
     }
   };
 
-  Label Drawn(std::string_view text, double scale) const;
+  LabelInk Drawn(std::string_view text, double scale) const;
 
   std::unique_ptr<Type> type_;
-  std::unordered_map<Key, Label, Hash> labels_;
+  std::unordered_map<Key, LabelInk, Hash> labels_;
 };
 
 // `x`, `y`: the pixel of the top left of the first character cell.
-void DrawLabel(const Canvas& canvas, int x, int y, const Label& label, Colour ink);
+void DrawLabel(const Canvas& canvas, int x, int y, const LabelInk& label, Colour ink);
 
 }  // namespace orvane

@@ -82,7 +82,7 @@ struct Raster::Caches {
   BallSprites Balls;
   Labels Texts;
   Backdrops Grounds;
-  std::vector<const Label*> LabelOf;  // by text index of the picture being painted
+  std::vector<const LabelInk*> LabelOf;  // by text index of the picture being painted
 };
 
 Raster::Raster() : caches_(std::make_unique<Caches>()) {}
@@ -117,7 +117,7 @@ void Raster::Paint(const Picture& picture, double scale, std::uint32_t* words, i
       case StrokeKind::Print: {
         int x = 0, y = 0;
         if (!CornerOn(scale, stroke.X1, x) || !CornerOn(scale, stroke.Y1, y)) break;
-        const Label*& label = caches_->LabelOf[stroke.Text];
+        const LabelInk*& label = caches_->LabelOf[stroke.Text];
         if (label == nullptr) label = &caches_->Texts.Of(picture.Texts[stroke.Text], scale);
         DrawLabel(canvas, x, y, *label, stroke.Ink);
         break;

@@ -45,6 +45,18 @@ std::vector<std::string> RoomsOnDisk() {
   return rooms;
 }
 
+std::vector<std::string> Headers() {
+  std::vector<std::string> headers;
+  for (const char* folder : {"src", "tests", "tools"}) {
+    for (const auto& entry : fs::recursive_directory_iterator(kRoot / folder)) {
+      if (entry.path().extension() != ".h") continue;
+      headers.push_back(fs::relative(entry.path(), kRoot).generic_string());
+    }
+  }
+  std::sort(headers.begin(), headers.end());
+  return headers;
+}
+
 std::vector<Inclusion> Inclusions() {
   static const std::regex include(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
   std::vector<Inclusion> found;

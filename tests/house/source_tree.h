@@ -21,6 +21,9 @@ std::string RoomOf(std::string_view path);
 // The folders directly under src/, sorted.
 std::vector<std::string> RoomsOnDisk();
 
+// Every header of the program, the tests and the tools, relative to the project.
+std::vector<std::string> Headers();
+
 // Every #include of every .h and .cpp under src/.
 std::vector<Inclusion> Inclusions();
 

@@ -16,7 +16,7 @@ constexpr int kLife = 4000;
 TEST(ARandomDesk, DoesNotBreakInAHundredThousandActions) {
   int played = 0;
   for (std::uint64_t seed = 1; played < kActions; ++seed) {
-    Session session;
+    Sitting session;
     const Life life = PlayLife(session, seed, kLife, nullptr);
     ASSERT_EQ(life.Wrong, "") << "orvane-random-desk --life " << kLife << " --seed " << seed
                               << " leaves a script of it";
@@ -28,7 +28,7 @@ TEST(ARandomDesk, DoesNotBreakInAHundredThousandActions) {
 TEST(ARandomDesk, PlaysTheSameFromTheSameSeed) {
   const auto lines_of = [](std::uint64_t seed) {
     std::vector<std::string> lines;
-    Session session;
+    Sitting session;
     PlayLife(session, seed, 300, [&](std::string_view line) { lines.emplace_back(line); });
     return lines;
   };
@@ -45,7 +45,7 @@ struct Damage {
 class WhatAlwaysHolds : public ::testing::TestWithParam<Damage> {};
 
 TEST_P(WhatAlwaysHolds, IsMissedWhenItDoesNot) {
-  Session session;
+  Sitting session;
   LastSeen last;
   for (const char* line : {"enter", "select Pro_Lst 1", "click Bt3_Sterio"}) {
     ASSERT_EQ(PlayRandomLine(session, line), "");
@@ -81,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& damage) { return damage.param.Name; });
 
 TEST(ARandomDesk, PlaysWhatNestsInsideATick) {
-  Session session;
+  Sitting session;
   for (const char* line : {"enter", "select Pro_Lst 1", "click P_Auto_Rotate",
                            "#nest click Bt3_Label", "#nest click P_Auto_Rotate"}) {
     ASSERT_EQ(PlayRandomLine(session, line), "");
@@ -93,7 +93,7 @@ TEST(ARandomDesk, PlaysWhatNestsInsideATick) {
 }
 
 TEST(ARandomDesk, MakesTheHourglassGoWhenASaveFails) {
-  Session session;
+  Sitting session;
   LastSeen last;
   for (const char* line : {"enter", "#save-fails", "answer abc", "click S_bmp"}) {
     ASSERT_EQ(PlayRandomLine(session, line), "");
@@ -106,7 +106,7 @@ TEST(ARandomDesk, MakesTheHourglassGoWhenASaveFails) {
 // half of the bar each thumb let go is one more step the same way.
 TEST(ARandomDesk, GoesOnWhereTheZoomRunsOutOfNumbers) {
   for (const char* start : {"bar ZoomBar 50", "bar ZoomBar -50"}) {
-    Session session;
+    Sitting session;
     LastSeen last;
     const auto play = [&](const char* line) {
       ASSERT_EQ(PlayRandomLine(session, line), "");

@@ -236,7 +236,7 @@ std::string WhatIsWrong(const Orvane_Desk& desk, Freedom freedom, LastSeen& last
   return wrong;
 }
 
-std::string WhatIsWrong(Session& session, LastSeen& last, bool thorough) {
+std::string WhatIsWrong(Sitting& session, LastSeen& last, bool thorough) {
   const Freedom freedom{std::exchange(session.MayHaveLoaded, false),
                         std::exchange(session.MayHaveLostAxis, false)};
   return WhatIsWrong(session.Desk(), freedom, last, thorough);

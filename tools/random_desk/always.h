@@ -25,6 +25,6 @@ struct LastSeen {
 
 // Empty: all is well; else the first thing that is not. `thorough` reads every picture, too.
 std::string WhatIsWrong(const Orvane_Desk& desk, Freedom freedom, LastSeen& last, bool thorough);
-std::string WhatIsWrong(Session& session, LastSeen& last, bool thorough);
+std::string WhatIsWrong(Sitting& session, LastSeen& last, bool thorough);
 
 }  // namespace orvane

@@ -5,7 +5,7 @@
 namespace orvane {
 namespace {
 
-void PlayAndCheck(Session& session, std::string_view line, LastSeen& last, Life& life) {
+void PlayAndCheck(Sitting& session, std::string_view line, LastSeen& last, Life& life) {
   const std::string complaint = PlayRandomLine(session, line);
   ++life.Actions;
   if (!complaint.empty()) {
@@ -15,13 +15,13 @@ void PlayAndCheck(Session& session, std::string_view line, LastSeen& last, Life&
   life.Wrong = WhatIsWrong(session, last, life.Actions % kThoroughEvery == 0);
 }
 
-bool IsOver(const Session& session, const Life& life) {
+bool IsOver(const Sitting& session, const Life& life) {
   return session.player.platform->Ended || !life.Wrong.empty();
 }
 
 }  // namespace
 
-Life PlayLife(Session& session, std::uint64_t seed, int actions, const LineListener& before) {
+Life PlayLife(Sitting& session, std::uint64_t seed, int actions, const LineListener& before) {
   Life life;
   LastSeen last;
   Dice dice{seed};
@@ -35,7 +35,7 @@ Life PlayLife(Session& session, std::uint64_t seed, int actions, const LineListe
   return life;
 }
 
-Life PlayLines(Session& session, std::span<const std::string> lines) {
+Life PlayLines(Sitting& session, std::span<const std::string> lines) {
   Life life;
   LastSeen last;
   for (const std::string& line : lines) {

@@ -26,9 +26,9 @@ struct Life {
 using LineListener = std::function<void(std::string_view line)>;
 
 // Plays a life by chance. A session serves one life.
-Life PlayLife(Session& session, std::uint64_t seed, int actions, const LineListener& before);
+Life PlayLife(Sitting& session, std::uint64_t seed, int actions, const LineListener& before);
 
 // Plays those lines, with the same checks behind each.
-Life PlayLines(Session& session, std::span<const std::string> lines);
+Life PlayLines(Sitting& session, std::span<const std::string> lines);
 
 }  // namespace orvane

@@ -136,7 +136,7 @@ void AppendResize(Dice& dice, const Orvane_Desk& desk, Lines& lines) {
   lines.push_back(line);
 }
 
-void AppendOuterWorld(Dice& dice, Session& session, Lines& lines) {
+void AppendOuterWorld(Dice& dice, Sitting& session, Lines& lines) {
   switch (dice.Below(8)) {
     case 0:
       return lines.emplace_back("#save-fails"), void();
@@ -155,13 +155,13 @@ void AppendOuterWorld(Dice& dice, Session& session, Lines& lines) {
   }
 }
 
-void AppendAnswer(Dice& dice, const Session& session, Lines& lines) {
+void AppendAnswer(Dice& dice, const Sitting& session, Lines& lines) {
   if (session.player.platform->Answers.size() >= kMostAnswers || dice.OneIn(4)) return;
   lines.push_back("answer " + std::string(dice.Of(std::span(kNames))));
 }
 
 // Something that leaves the desk as it is: neither the end of the program nor a start.
-std::string Anything(Dice& dice, Session& session) {
+std::string Anything(Dice& dice, Sitting& session) {
   const Orvane_Desk& desk = session.Desk();
   switch (dice.Below(10)) {
     case 0:
@@ -187,7 +187,7 @@ std::string Anything(Dice& dice, Session& session) {
   }
 }
 
-void AppendTick(Dice& dice, Session& session, Lines& lines) {
+void AppendTick(Dice& dice, Sitting& session, Lines& lines) {
   const bool nests = dice.OneIn(4);
   for (int i = nests ? dice.Between(1, 3) : 0; i > 0; --i) {
     lines.push_back("#nest " + Anything(dice, session));
@@ -197,14 +197,14 @@ void AppendTick(Dice& dice, Session& session, Lines& lines) {
 }
 
 // The same over and over: a held key, a spin that nobody stops, a recording to its end.
-void AppendBurst(Dice& dice, Session& session, Lines& lines) {
+void AppendBurst(Dice& dice, Sitting& session, Lines& lines) {
   const std::string line = dice.OneIn(2) ? "tick Timer1" : Anything(dice, session);
   lines.insert(lines.end(), static_cast<std::size_t>(dice.Between(2, kLongestBurst)), line);
 }
 
 }  // namespace
 
-std::vector<std::string> NextLines(Dice& dice, Session& session) {
+std::vector<std::string> NextLines(Dice& dice, Sitting& session) {
   Lines lines;
   const Orvane_Desk& desk = session.Desk();
   if (!desk.main.Visible && dice.OneIn(3)) return {"enter"};

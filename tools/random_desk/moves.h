@@ -12,6 +12,6 @@ namespace orvane {
 
 // One action, with the lines that prepare it (an answer to the box it opens, what nests in a tick),
 // as the desk stands now. Most are open to the user; some are not, and some are forced.
-std::vector<std::string> NextLines(Dice& dice, Session& session);
+std::vector<std::string> NextLines(Dice& dice, Sitting& session);
 
 }  // namespace orvane

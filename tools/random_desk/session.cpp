@@ -13,7 +13,7 @@ namespace {
 constexpr std::string_view kNest = "#nest ";
 constexpr std::string_view kDiskFull = "the disk is full";
 
-void ListenToPending(Session& session) {
+void ListenToPending(Sitting& session) {
   session.player.platform->PendingEvents = [&session] {
     // What is played may let events run in its turn, and finds what is left.
     while (!session.Pending.empty()) {
@@ -24,7 +24,7 @@ void ListenToPending(Session& session) {
   };
 }
 
-void PlayResize(Session& session, ScriptLine& words) {
+void PlayResize(Sitting& session, ScriptLine& words) {
   const std::string_view name = words.NextWord();
   const int state = WholeNumber(words.NextWord()).value_or(0);
   Place now;
@@ -37,7 +37,7 @@ void PlayResize(Session& session, ScriptLine& words) {
 }
 
 // As a skin does it: the surfaces and the snapshots that stand on the screen now.
-void Look(Session& session, double scale) {
+void Look(Sitting& session, double scale) {
   for (const Window* window : session.Desk().windows) {
     for (Control* control : window->Controls) {
       if (!control->IsOpenToUser()) continue;
@@ -53,7 +53,7 @@ void Look(Session& session, double scale) {
   }
 }
 
-void PlayRemark(Session& session, std::string_view remark) {
+void PlayRemark(Sitting& session, std::string_view remark) {
   if (remark.starts_with(kNest)) {
     session.Pending.emplace_back(remark.substr(kNest.size()));
     return;
@@ -84,9 +84,9 @@ std::streamsize FailureTally::xsputn(const char* text, std::streamsize length) {
   return length;
 }
 
-Session::Session() { ListenToPending(*this); }
+Sitting::Sitting() { ListenToPending(*this); }
 
-std::string PlayRandomLine(Session& session, std::string_view line) {
+std::string PlayRandomLine(Sitting& session, std::string_view line) {
   if (line.starts_with('#')) {
     PlayRemark(session, line);
     return "";

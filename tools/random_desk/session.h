@@ -33,8 +33,8 @@ class FailureTally : public std::streambuf {
   int overflow(int letter) override { return letter; }
 };
 
-struct Session {
-  Session();
+struct Sitting {
+  Sitting();
 
   FailureTally failures;
   std::ostream stream{&failures};
@@ -51,6 +51,6 @@ struct Session {
 };
 
 // Plays one line. Empty: done; else the line is no action, for the reason that is returned.
-std::string PlayRandomLine(Session& session, std::string_view line);
+std::string PlayRandomLine(Sitting& session, std::string_view line);
 
 }  // namespace orvane

@@ -25,11 +25,11 @@ void Write(int file, std::string text) {
   if (write(file, text.data(), text.size()) != static_cast<ssize_t>(text.size())) _exit(4);
 }
 
-[[noreturn]] void Live(int file, const std::function<Life(Session&, int)>& play) {
+[[noreturn]] void Live(int file, const std::function<Life(Sitting&, int)>& play) {
   alarm(kLongestLife);
   int code = 0;
   {
-    Session session;
+    Sitting session;
     const Life life = play(session, file);
     for (const auto& [text, count] : session.failures.Counts) {
       Write(file, kFailureMark + std::to_string(count) + " " + text);
@@ -74,7 +74,7 @@ std::string TextOf(int file) {
   return text;
 }
 
-Trial Try(const std::function<Life(Session&, int)>& play, bool speaks) {
+Trial Try(const std::function<Life(Sitting&, int)>& play, bool speaks) {
   Trial trial;
   std::FILE* const kept = std::tmpfile();  // both processes write and read the same open file
   if (kept == nullptr) {
@@ -102,7 +102,7 @@ Trial Try(const std::function<Life(Session&, int)>& play, bool speaks) {
 
 Trial TryLife(std::uint64_t seed, int actions) {
   return Try(
-      [=](Session& session, int file) {
+      [=](Sitting& session, int file) {
         return PlayLife(session, seed, actions,
                         [file](std::string_view line) { Write(file, std::string(line)); });
       },
@@ -110,7 +110,7 @@ Trial TryLife(std::uint64_t seed, int actions) {
 }
 
 Trial TryLines(const std::vector<std::string>& lines, bool speaks) {
-  Trial trial = Try([&](Session& session, int) { return PlayLines(session, lines); }, speaks);
+  Trial trial = Try([&](Sitting& session, int) { return PlayLines(session, lines); }, speaks);
   trial.Lines = lines;
   return trial;
 }
