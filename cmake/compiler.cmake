@@ -30,6 +30,10 @@ if(ORVANE_FUZZ)
   target_compile_options(orvane_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+if(ORVANE_COVERAGE)
+  target_link_options(orvane_options INTERFACE --coverage)
+endif()
+
 find_program(CCACHE ccache)
 if(CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})

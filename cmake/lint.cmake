@@ -1,4 +1,4 @@
-# How the code is read over: `lint` (the layout, a test too) and `tidy` (clang-tidy and cppcheck).
+# How the code is read over: `lint` (its layout) and `tidy` (its slips), each a test, too.
 
 find_program(CLANG_FORMAT clang-format)
 if(CLANG_FORMAT)
@@ -12,9 +12,12 @@ elseif(ORVANE_TESTS)
   message(FATAL_ERROR "The tests read the code's layout with clang-format: see dependencies.txt.")
 endif()
 
-# Both read every source with the flags it is compiled with. They take minutes, so they are no part
-# of the tests. Both run even when the first has found something.
-add_custom_target(tidy
-  COMMAND ${CMAKE_COMMAND} -DROOT=${CMAKE_SOURCE_DIR} -DTREE=${CMAKE_BINARY_DIR}
-          -P ${CMAKE_CURRENT_LIST_DIR}/tidy.cmake
-  USES_TERMINAL VERBATIM)
+# clang-tidy and cppcheck, each with the flags a source is compiled with. What was clean and has not
+# changed since is not read again. It takes every core, so no other test runs beside it.
+set(tidy ${CMAKE_SOURCE_DIR}/tools/tidy --tree ${CMAKE_BINARY_DIR})
+add_custom_target(tidy COMMAND ${tidy} USES_TERMINAL VERBATIM)
+if(ORVANE_TESTS AND ORVANE_TIDY)
+  cmake_host_system_information(RESULT cores QUERY NUMBER_OF_LOGICAL_CORES)
+  add_test(NAME tidy COMMAND ${tidy})
+  set_tests_properties(tidy PROPERTIES PROCESSORS ${cores} TIMEOUT 3600)
+endif()

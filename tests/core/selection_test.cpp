@@ -23,7 +23,7 @@ TEST(Selection, PreparationClearsTheBondsAndStopsTheSpin) {
   DeskAtWork work;
   Load(work.desk, Pair());
   work.desk.view.AutoRotateOn = 1;
-  work.desk.main.P_Auto_Rotate.Style = {1, 2};
+  work.desk.main.P_Auto_Rotate.Style = Look{1, 2};
   PrepareSelection(work.desk);
 
   EXPECT_EQ(work.desk.molecule.BondA[1], 0);

@@ -184,14 +184,14 @@ TEST_F(SurveyTest, StaysOpenToTheAtomsInStoreAfterGetMolecule) {
 }
 
 TEST_F(SurveyTest, ASelectionClosesTheWindow) {
-  for (const auto& select : std::initializer_list<void (*)(Orvane_Desk&)>{
-           [](Orvane_Desk& d) { SelectRow(d, d.main.AA_Lst, 1); },
-           [](Orvane_Desk& d) { SelectRow(d, d.main.Pro_Lst, kAlfb); },
-           [](Orvane_Desk& d) { SelectRow(d, d.main.Nuc_Lst, 0); },
-           [](Orvane_Desk& d) { SelectRow(d, d.main.DNA_Lst, 0); }}) {
+  const std::pair<List*, int> rows[] = {{&desk.main.AA_Lst, 1},
+                                        {&desk.main.Pro_Lst, kAlfb},
+                                        {&desk.main.Nuc_Lst, 0},
+                                        {&desk.main.DNA_Lst, 0}};
+  for (const auto& [list, row] : rows) {
     Survey(kAlfa);
     ASSERT_TRUE(desk.plot.Visible);
-    select(desk);
+    SelectRow(desk, *list, row);
     EXPECT_FALSE(desk.plot.Visible);
   }
   EXPECT_FALSE(desk.main.RCDP.Enabled);
