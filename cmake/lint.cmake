@@ -1,4 +1,4 @@
-# How the code is read over: `lint` (its layout) and `tidy` (its slips), each a test, too.
+# How the code is read over: `lint` (its layout) and `tidy` (its slips).
 
 find_program(CLANG_FORMAT clang-format)
 if(CLANG_FORMAT)

@@ -88,6 +88,7 @@ struct Raster::Caches {
 Raster::Raster() : caches_(std::make_unique<Caches>()) {}
 Raster::~Raster() = default;
 
+// NOLINTNEXTLINE(readability-non-const-parameter): the canvas is painted on
 void Raster::Paint(const Picture& picture, double scale, std::uint32_t* words, int width,
                    int height, int stride) {
   if (width <= 0 || height <= 0) return;

@@ -14,6 +14,7 @@ constexpr float kFar = 1e9f;  // farther than any pixel
 constexpr float kLevel = 1e-4f;
 // Pixels to a row of the core from which on filling it apart is the shorter way.
 constexpr int kWorthFilling = 12;
+constexpr int kHalfWorthFilling = kWorthFilling / 2;
 
 template <int kLanes>
 struct VectorsOf {
@@ -138,8 +139,8 @@ ORVANE_INLINE void Draw(const Canvas& canvas, const Track& track, int top, int b
   // Within these nothing shows of what is below. A little less, for what the divisions round off.
   const float core = radius - 0.52f;
   const bool has_core = kEnds != kDashed && track.Width >= 1 && core > 0 &&
-                        sides.Half * core > kWorthFilling / 2 * reach &&
-                        ends.Half > kWorthFilling / 2;
+                        sides.Half * core > kHalfWorthFilling * reach &&
+                        ends.Half > kHalfWorthFilling;
   const Slab core_sides(beside, -along_y, along_x, has_core ? -core : 0, has_core ? core : 0);
   const Slab core_ends(along, along_x, along_y, 0.52f, length - 0.52f);
   const RowLimit core_rows(beside, -along_y, along_x, -core, core, right);

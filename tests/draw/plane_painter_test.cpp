@@ -28,7 +28,7 @@ struct PlanePainterTest : testing::Test, PlacedAtoms {
     Atom(to, 2, 20);
     molecule.BondA[1] = 1;
     molecule.BondB[1 + ahead] = 2;
-    const std::string painted = Painted();
+    std::string painted = Painted();
     molecule.BondA[1] = 0;
     molecule.BondB[1 + ahead] = 0;
     return painted;

@@ -26,7 +26,8 @@ TEST(Tracks, AreTheSameWithNarrowAndWideRegisters) {
   };
   for (const Ends ends : {kRound, kFlatStart, kFlatEnd, kFlat, kDashed}) {
     for (int count = 0; count < 400; ++count) {
-      const double angle = count % 16 == 0 ? M_PI / 2 * (count / 16) : between(0, 2 * M_PI);
+      const int quarters = count / 16;
+      const double angle = count % 16 == 0 ? M_PI / 2 * quarters : between(0, 2 * M_PI);
       const Track track{.X = between(-8, kSide + 8),
                         .Y = between(-8, kSide + 8),
                         .AlongX = std::cos(angle),
