@@ -24,6 +24,7 @@ enum class Aspect {
   Front,    // the control was brought in front of its siblings
   Focus,    // the control asks for the keyboard
   Surface,  // a picture box was drawn on
+  Walk,     // the keyboard stands on another atom of a picture box, or has pressed on it
 };
 
 void TellWatcher(Control& control, Aspect aspect);  // controls/control.cpp

@@ -4,6 +4,7 @@
 #include "draw/redraw_chain.h"
 #include "measure/distance.h"
 #include "measure/hydrogen_bonds.h"
+#include "reading/atom_walk.h"
 #include "runtime/arithmetic.h"
 #include "runtime/number_text.h"
 
@@ -66,6 +67,7 @@ void LoadMolecule(Orvane_Desk& desk) {
   FitBox(desk.molecule);
   RedrawView(desk);
   desk.molecule.BondAtomB = 2;
+  ForgetWalk(desk);
 }
 
 void FindBonds(Orvane_Desk& desk) {

@@ -13,6 +13,7 @@
 #include "output/recording_state.h"
 #include "ramachandran/plot_window.h"
 #include "ramachandran/survey_state.h"
+#include "reading/walked_atom.h"
 #include "shell/information_windows.h"
 #include "shell/main_window.h"
 #include "shell/shell_state.h"
@@ -43,6 +44,7 @@ struct Orvane_Desk {
   Measure measure;
   Survey survey;
   Recording recording;
+  WalkedAtom walk;
   Shell shell;
 
   MainWindow main;

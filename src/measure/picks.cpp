@@ -33,10 +33,14 @@ void PrintTag(Orvane_Desk& desk, int atom) {
 
 }  // namespace
 
+bool IsTakenAt(const Molecule& molecule, int atom, float x, float y) {
+  return IsWithinReach(molecule.ScrX[atom], x) && IsWithinReach(molecule.ScrY[atom], y);
+}
+
 void PickAtomsAt(Orvane_Desk& desk, float x, float y) {
   const Molecule& molecule = desk.molecule;
   for (int i = 1; i <= molecule.AtomCount; ++i) {
-    if (!IsWithinReach(molecule.ScrX[i], x) || !IsWithinReach(molecule.ScrY[i], y)) continue;
+    if (!IsTakenAt(molecule, i, x, y)) continue;
     PrintTag(desk, i);
     TakePick(desk, i);
   }

@@ -5,8 +5,12 @@
 
 namespace orvane {
 
-// Takes every atom in the square of 7 pixels about the pointer, in the order of their numbers, and
-// prints its tag there: name, residue number, atom number. Atoms that lie on top of each other use
+// Whether a press at that place takes the atom: it lies in the square of 7 pixels about the
+// pointer.
+bool IsTakenAt(const Molecule& molecule, int atom, float x, float y);
+
+// Takes every atom that IsTakenAt the place, in the order of their numbers, and prints its tag
+// there: name, residue number, atom number. Atoms that lie on top of each other use
 // up a step of the cycle each. The tags stay until the next repaint.
 void PickAtomsAt(Orvane_Desk& desk, float x, float y);
 

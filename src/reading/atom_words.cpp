@@ -8,21 +8,18 @@ namespace orvane {
 namespace {
 
 // Third character of an atom's name, and what stands there.
-struct ElementWord {
+struct WordOfElement {
   char Letter;
   std::string_view Word;
 };
-constexpr ElementWord kElementWords[] = {
+constexpr WordOfElement kElementWords[] = {
     {'N', "Nitrogen"},   {'C', "Carbon"},   {'O', "Oxygen"},     {'S', "Sulphur"},
     {'P', "Phosphorus"}, {'H', "Hydrogen"}, {'R', "Side chain"},
 };
 
 std::string_view ElementWordOf(const NameField& name) {
   const std::string_view letter = ElementLetter(name);
-  for (const ElementWord& row : kElementWords) {
-    if (!letter.empty() && letter.front() == row.Letter) return row.Word;
-  }
-  return "Atom";
+  return letter.empty() ? "Atom" : ElementWord(letter.front());
 }
 
 // Strokes are narrowed to 32 bits, and a turn there and back leaves a trace of rounding.
@@ -85,6 +82,13 @@ bool IsTurned(const Picture& held, const Picture& shown) {
 }
 
 }  // namespace
+
+std::string_view ElementWord(char letter) {
+  for (const WordOfElement& row : kElementWords) {
+    if (letter == row.Letter) return row.Word;
+  }
+  return "Atom";
+}
 
 std::string AtomWords(const Orvane_Desk& desk, int atom) {
   const Molecule& molecule = desk.molecule;

@@ -2,10 +2,14 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "desk/orvane_desk.h"
 
 namespace orvane {
+
+// "Carbon" for the third character of an atom's name, "C". "Atom" for one that is no element.
+std::string_view ElementWord(char letter);
 
 // "Carbon CA of alanine, atom 2". Where a structure has several residues, with the number of this
 // one: "Carbon CA of alanine 3, atom 12". Empty for a number that no atom has.

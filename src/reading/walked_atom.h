@@ -1,0 +1,14 @@
+// Where the keyboard stands among the atoms. It belongs to the reader, not to the structure: no
+// command asks for it.
+#pragma once
+
+namespace orvane {
+
+struct WalkedAtom {
+  int Number = 0;  // 0: on none, as after every load
+  int Picked = 0;  // the atom that the last press of the walk took last; 0: it took none
+  int Taken = 0;   // how many atoms that press took; more than one where they lie too close
+  int Order = 0;   // which of the four picks that atom became, 1 to 4
+};
+
+}  // namespace orvane
