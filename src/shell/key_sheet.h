@@ -1,0 +1,32 @@
+// The sheet behind F1: the keys, what the colours stand for, how a pair of views is looked at.
+// It is made of the tables that the program works by.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "runtime/colour.h"
+
+namespace orvane {
+
+struct SheetRow {
+  std::string Head;  // a key, "Left or Up"; or the name beside a swatch
+  std::string Words;
+  std::optional<Colour> Swatch;
+};
+
+struct SheetSection {
+  std::string Heading;
+  std::vector<SheetRow> Rows;
+  std::vector<std::string> Texts;  // paragraphs
+};
+
+inline constexpr const char* kSheetTitle = "Keys and colours";
+
+std::vector<SheetSection> KeySheet();
+
+// The whole sheet as plain text, a line a row: what a screen reader reads.
+std::string KeySheetText();
+
+}  // namespace orvane
