@@ -53,9 +53,10 @@ Place Plate::StandsAt() const {
 }
 
 void Plate::Take(Aspect aspect) {
+  const bool had_keyboard = dress_.Floats && isAncestorOf(window()->focusWidget());
   ControlView::Take(aspect);
   if (aspect == Aspect::Caption && dress_.GrowsTo > 0) Lay();
-  if (aspect == Aspect::Visible && dress_.Floats) host.FloatingPanelTurned(control);
+  if (aspect == Aspect::Visible && dress_.Floats) host.FloatingPanelTurned(control, had_keyboard);
 }
 
 double Plate::Outset() const {
@@ -215,7 +216,8 @@ void Plate::mouseReleaseEvent(QMouseEvent* event) {
 // Space and Enter are a press and a click in the middle.
 void Plate::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!enter && event->key() != Qt::Key_Space) return event->ignore();
+  const bool own = hasFocus();  // else it has come up from a control that stands on this one
+  if (!own || (!enter && event->key() != Qt::Key_Space)) return event->ignore();
   if (event->isAutoRepeat()) return;
   held_ = true;
   update();

@@ -4,6 +4,7 @@
 
 #include "desk/actions.h"
 #include "desktop/control_view.h"
+#include "desktop/key_sheet_window.h"
 #include "desktop/window_widget.h"
 
 namespace orvane {
@@ -58,6 +59,11 @@ WindowWidget& Skin::WindowOf(Window& window) {
 QWidget* Skin::WidgetOf(const Control& control) {
   ControlView* view = WindowOf(control.Owner).ViewOf(control);
   return view == nullptr ? nullptr : &view->widget;
+}
+
+void Skin::ShowKeySheet() {
+  if (sheet_ == nullptr) sheet_ = std::make_unique<KeySheetWindow>();
+  sheet_->Turn();
 }
 
 void Skin::RepaintSoon(QWidget& picture) {

@@ -19,6 +19,7 @@
 
 namespace orvane {
 
+class KeySheetWindow;
 class WindowWidget;
 
 class Skin : public ControlWatcher {
@@ -40,6 +41,8 @@ class Skin : public ControlWatcher {
   WindowWidget& WindowOf(Window& window);
   QWidget* WidgetOf(const Control& control);
 
+  void ShowKeySheet();  // or closes it
+
   // Pictures are painted together and at most once in a screen's beat, however often they were
   // drawn on.
   void RepaintSoon(QWidget& picture);
@@ -51,6 +54,7 @@ class Skin : public ControlWatcher {
 
   std::unordered_map<const Window*, std::unique_ptr<WindowWidget>> windows_;
   std::unordered_map<const Timer*, std::unique_ptr<Ticker>> tickers_;
+  std::unique_ptr<KeySheetWindow> sheet_;   // made when it is first asked for
   std::vector<QPointer<QWidget>> waiting_;  // pictures to paint at the next beat
   QTimer beat_;
   QElapsedTimer since_beat_;

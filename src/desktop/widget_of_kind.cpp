@@ -5,6 +5,7 @@
 #include "desktop/bar_widget.h"
 #include "desktop/dress.h"
 #include "desktop/further_widgets.h"
+#include "desktop/keyed_picture.h"
 #include "desktop/list_widget.h"
 #include "desktop/picture_widget.h"
 #include "desktop/plate.h"
@@ -27,6 +28,8 @@ ControlView* MakeView(WindowWidget& window, Control& control, QWidget& parent) {
     case ControlKind::TextBox:
       return new TextWidget(window, dynamic_cast<TextBox&>(control), parent);
     case ControlKind::PictureBox:
+      if (control.Row.TabStop > 0) return new KeyedPicture(window, control, parent);
+      [[fallthrough]];
     case ControlKind::ImageBox:
       return new PictureWidget(window, control, parent);
     default:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 #include <QCloseEvent>
@@ -16,6 +17,7 @@
 #include "desktop/look_style.h"
 #include "desktop/menu_strip.h"
 #include "desktop/palette.h"
+#include "desktop/picture_keys_map.h"
 #include "desktop/skin.h"
 #include "desktop/widget_of_kind.h"
 #include "desktop/window_dress.h"
@@ -216,14 +218,21 @@ void WindowWidget::closeEvent(QCloseEvent* event) {
   CloseWindow(skin.desk, shown);
 }
 
+void WindowWidget::keyPressEvent(QKeyEvent* event) {
+  if (!AnswerKey(*this, *event)) QWidget::keyPressEvent(event);
+}
+
 void WindowWidget::PointerOver(Control& control) {
   if (under_pointer_ == &control) return;
   under_pointer_ = &control;
   PointerEnters(skin.desk, control);
 }
 
-void WindowWidget::FloatingPanelTurned(Control& panel) {
-  panel_from_ = nullptr;
+void WindowWidget::FloatingPanelTurned(Control& panel, bool had_keyboard) {
+  Control* from = std::exchange(panel_from_, nullptr);
+  if (had_keyboard && from != nullptr && from->IsOpenToUser()) {
+    ViewOf(*from)->widget.setFocus(Qt::BacktabFocusReason);
+  }
   if (panel.Visible) {
     ViewOf(panel)->widget.raise();
     for (const auto& [control, view] : views_) {

@@ -51,8 +51,10 @@ class WindowWidget : public QWidget {
   int PlanWidth() const { return shown.Row.At.Width; }
   int PlanHeight() const { return shown.Row.At.Height; }
 
-  void PointerOver(Control& control);        // tells of it once, when it comes
-  void FloatingPanelTurned(Control& panel);  // one was opened or closed
+  void PointerOver(Control& control);  // tells of it once, when it comes
+  // One was opened, or closed with or without the keyboard in it, which then goes back to where it
+  // came from.
+  void FloatingPanelTurned(Control& panel, bool had_keyboard);
   void LayAll();
 
  protected:
@@ -61,6 +63,7 @@ class WindowWidget : public QWidget {
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void MakeWidgets();
