@@ -20,7 +20,7 @@ using namespace palette;
 
 // Pixels at 100 per cent. Twice as large it still fits on a screen of 1920 by 1080.
 constexpr int kWide = 956, kHigh = 500;
-constexpr double kBand = 44, kMargin = 20, kGap = 16;
+constexpr double kTitleBand = 44, kMargin = 20, kGap = 16;
 constexpr int kColumns = 3;
 constexpr double kColumn = (kWide - 2 * kMargin - (kColumns - 1) * kGap) / kColumns;
 constexpr double kHeads = 112;  // of a column: the keys stand in it
@@ -58,7 +58,7 @@ class SheetPainter {
   }
 
  private:
-  static constexpr double kFirst = kBand + 10;
+  static constexpr double kFirst = kTitleBand + 10;
 
   void Line(double left, double width, double height, Type type, QRgb ink, const QString& text) {
     DrawLine(painter_, QRectF(left * unit_, top_ * unit_, width * unit_, height * unit_),
@@ -134,10 +134,10 @@ void KeySheetWindow::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QSizeF all = QSizeF(size()) * ratio;
   painter.fillRect(QRectF(QPointF(0, 0), all), QColor::fromRgba(kGround));
-  painter.fillRect(QRectF(0, 0, all.width(), kBand * unit), QColor::fromRgba(kBezel));
+  painter.fillRect(QRectF(0, 0, all.width(), kTitleBand * unit), QColor::fromRgba(kBezel));
   painter.translate((all.width() - kWide * unit) / 2, 0);
   PaintIcon(painter, QRectF(kMargin * unit, 8 * unit, 28 * unit, 28 * unit));
-  DrawLine(painter, QRectF(60 * unit, 0, 800 * unit, kBand * unit), Qt::AlignLeft, kTitleType,
+  DrawLine(painter, QRectF(60 * unit, 0, 800 * unit, kTitleBand * unit), Qt::AlignLeft, kTitleType,
            kOnDark, unit, QString::fromLatin1(kSheetTitle));
   SheetPainter(painter, unit).Paint(sections_);
 }

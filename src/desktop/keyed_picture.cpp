@@ -4,6 +4,7 @@
 
 #include "desktop/skin.h"
 #include "desktop/walk_mark.h"
+#include "desktop/window_widget.h"
 
 namespace orvane {
 

@@ -73,7 +73,7 @@ std::string ColourWord(Colour colour) {
                      })->Name);
 }
 
-SheetSection Colours() {
+SheetSection ColoursOfElements() {
   SheetSection section{"Colours of the elements", {}, {}};
   for (const ElementRow& element : kElements) {
     section.Rows.push_back(
@@ -90,7 +90,7 @@ std::vector<SheetSection> KeySheet() {
   for (const DeskKey& key : DeskKeys()) {
     SectionOf(sections, key.Group).Rows.push_back({KeysOf(key), std::string(key.Does), {}});
   }
-  sections.push_back(Colours());
+  sections.push_back(ColoursOfElements());
   sections.push_back({"Seeing depth", {}, {kDepth.begin(), kDepth.end()}});
   return sections;
 }
