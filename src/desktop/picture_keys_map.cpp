@@ -27,7 +27,6 @@ constexpr auto kNames = std::to_array<NamedKey>({
     {Qt::Key_Return, "Enter"},
     {Qt::Key_Enter, "Enter"},
     {Qt::Key_Delete, "Delete"},
-    {Qt::Key_Backspace, "Backspace"},
     {Qt::Key_Escape, "Escape"},
     {Qt::Key_F1, "F1"},
     {Qt::Key_F6, "F6"},

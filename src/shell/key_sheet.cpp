@@ -29,13 +29,24 @@ const std::array<std::string, 4> kDepth = {
     "view. This works at any size.",
     "Red and green glasses: the red lines are the right view of the pair, the green ones the left. "
     "Each is seen through the glass of its own colour. Take off coloured backgrounds first.",
-    "Nothing tells front from back but the depth itself. If the two seem exchanged, look the other "
-    "way, or turn the glasses round. For a projector maximise the window, and press 3 for thicker "
-    "lines."};
+    "Which way shows front and back as they are differs from structure to structure. If a helix of "
+    "right hand seems left, look the other way, or turn the glasses round. For a projector "
+    "maximise "
+    "the window, and press 3 on the picture for thicker lines."};
+
+// A sign that is easily overlooked, and that a screen reader may leave out.
+std::string InWords(std::string_view key) {
+  return key == "+"   ? "Plus"
+         : key == "=" ? "Equals"
+         : key == "-" ? "Minus"
+         : key == "." ? "Full stop"
+         : key == "," ? "Comma"
+                      : std::string(key);
+}
 
 std::string KeysOf(const DeskKey& key) {
-  std::string keys(key.Key);
-  if (!key.Other.empty()) keys += " or " + std::string(key.Other);
+  std::string keys = InWords(key.Key);
+  if (!key.Other.empty()) keys += " or " + InWords(key.Other);
   return keys;
 }
 

@@ -82,7 +82,7 @@ constexpr auto kKeys = std::to_array<DeskKey>({
     {Picture, "Measure", "D", "", "Measure the first two atoms picked",   false, Push<&Main::Bt3_Dts>},
     {Picture, "Measure", "A", "", "Measure the angle at the second atom", false, Push<&Main::Bt3_Ang>},
     {Picture, "Measure", "T", "", "Measure the torsion of four atoms",    false, Push<&Main::Bt3_Trg>},
-    {Picture, "Measure", "Delete", "Backspace", "Clear the result",       false, Push<&Main::P_Dst_Show>},
+    {Picture, "Measure", "Delete", "", "Clear the result",                false, Push<&Main::P_Dst_Show>},
 
     {Picture, "Draw", "B", "", "Switch between wire frame and balls", false, Push<&Main::Bt_BlS>},
     {Picture, "Draw", "C", "", "Show the chain of alpha carbons",     false, Push<&Main::Bt_CA_Trace>},

@@ -125,7 +125,6 @@ constexpr ControlKey kControlKeys[] = {
     {"A", "Bt3_Ang"},
     {"T", "Bt3_Trg"},
     {"Delete", "P_Dst_Show"},
-    {"Backspace", "P_Dst_Show"},
     {"B", "Bt_BlS"},
     {"C", "Bt_CA_Trace"},
     {"L", "Bt3_Label"},
