@@ -18,6 +18,7 @@ const SheetSection kEveryControl = {"Everywhere",
                                         {"Arrows, Page keys", "Choose in a list, step a bar", {}},
                                         {"Alt and a letter", "Open the menu with that letter", {}},
                                         {"F1", "Show or close this sheet", {}},
+                                        {"F8", "Show the pictures for another eye", {}},
                                     },
                                     {}};
 
