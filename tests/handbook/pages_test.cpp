@@ -10,6 +10,7 @@
 #include "house/source_tree.h"
 #include "reading/rest_words.h"
 #include "replay/played.h"
+#include "shell/key_sheet.h"
 #include "shell/main_window_table.h"
 
 namespace orvane {
@@ -103,6 +104,21 @@ TEST(TheMeasuringPage, QuotesTheRestingPointer) {
   // True ones: folded, the torsion would stand at 90 or more.
   EXPECT_NEAR(serine.Torsion(og, serine.Atom("1 CB"), serine.Atom("1 CA"), serine.Atom("1 N")),
               53.7, 0.05);
+}
+
+TEST(TheKeysPage, HasEachRowOfTheSheetBehindF1) {
+  const std::string page = PageAsLine("docs/handbook/keys.md");
+  int keys = 0;
+  for (const SheetSection& section : KeySheet()) {
+    for (const SheetRow& row : section.Rows) {
+      if (row.Swatch) continue;  // an element, not a key
+      EXPECT_NE(page.find("## " + section.Heading + " "), std::string::npos) << section.Heading;
+      EXPECT_NE(page.find("| " + row.Head + " | " + row.Words + " |"), std::string::npos)
+          << "| " << row.Head << " | " << row.Words << " |";
+      ++keys;
+    }
+  }
+  EXPECT_GT(keys, 40);
 }
 
 std::vector<fs::path> PagesOf(const fs::path& folder) {
