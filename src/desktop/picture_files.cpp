@@ -16,6 +16,7 @@
 #include "output/file_aside.h"
 #include "output/gif_file.h"
 #include "runtime/failure.h"
+#include "runtime/no_memory.h"
 
 namespace orvane {
 namespace {
@@ -25,6 +26,7 @@ constexpr int kJpegQuality = 75;
 QImage Rastered(Skin& skin, const Picture& picture, QSize size) {
   if (size.isEmpty()) size = QSize(picture.Width, picture.Height);
   QImage image(size, QImage::Format_RGB32);
+  if (image.isNull()) FailMemory();
   skin.raster.Paint(picture, static_cast<double>(size.width()) / picture.Width,
                     reinterpret_cast<std::uint32_t*>(image.bits()), size.width(), size.height(),
                     static_cast<int>(image.bytesPerLine() / 4));
@@ -115,6 +117,7 @@ QImage PictureOf(Skin& skin, Control& source) {
 
 void SavePictureFile(Skin& skin, const SaveRequest& request, const std::string& folder) {
   const QImage image = PictureOf(skin, *request.Source);
+  if (image.isNull()) FailMemory();
   WriteAside(folder, request.Name, BytesOf(request, folder, image));
 }
 

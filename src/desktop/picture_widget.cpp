@@ -1,5 +1,10 @@
 #include "desktop/picture_widget.h"
 
+#include <new>
+#include <utility>
+
+#include <QTimer>
+
 #include "controls/kinds.h"
 #include "desk/actions.h"
 #include "desktop/palette.h"
@@ -7,6 +12,8 @@
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
 #include "draw/surface.h"
+#include "runtime/failure.h"
+#include "runtime/no_memory.h"
 
 namespace orvane {
 
@@ -36,15 +43,37 @@ std::shared_ptr<const Picture> PictureWidget::Now() const {
 }
 
 // The picture's width fills the control's, so an image box shows a snapshot of any size as its own.
-void PictureWidget::RasterOnce() {
+void PictureWidget::PaintPixels() {
   const QSize size = Stand().Face.size();
   if (pixels_.size() != size) pixels_ = QImage(size, QImage::Format_RGB32);
-  stale_ = false;
+  if (pixels_.isNull() && !size.isEmpty()) FailMemory();
   const auto picture = Now();
   if (picture == nullptr || picture->Width == 0) return pixels_.fill(Qt::black);
   host.skin.raster.Paint(*picture, static_cast<double>(size.width()) / picture->Width,
                          reinterpret_cast<std::uint32_t*>(pixels_.bits()), size.width(),
                          size.height(), static_cast<int>(pixels_.bytesPerLine() / 4));
+}
+
+// The toolkit asks for it in the midst of its painting, and nothing may be thrown through that.
+void PictureWidget::RasterOnce() {
+  try {
+    PaintPixels();
+    stale_ = told_ = false;
+  } catch (const Failure&) {
+    GoWithout();
+  } catch (const std::bad_alloc&) {
+    GoWithout();
+  }
+}
+
+// Nothing is shown until there is memory again; that is told once, when the painting is over.
+void PictureWidget::GoWithout() {
+  pixels_ = QImage();
+  if (std::exchange(told_, true)) return;
+  QTimer::singleShot(0, this, [this] {
+    host.skin.platform.FailureBox(std::string("The picture could not be painted: ") + kNoMemory +
+                                  ".");
+  });
 }
 
 const QImage& PictureWidget::Pixels() {

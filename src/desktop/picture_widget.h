@@ -16,6 +16,7 @@ class PictureWidget : public Viewed<QWidget> {
 
   void Take(Aspect aspect) override;
   void Lay() override;
+  const QImage& Pixels();  // of the picture as it is now
 
  protected:
   bool event(QEvent* event) override;
@@ -24,13 +25,14 @@ class PictureWidget : public Viewed<QWidget> {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
-  const QImage& Pixels();  // of the picture as it is now
-
  private:
   std::shared_ptr<const Picture> Now() const;
   void RasterOnce();
+  void PaintPixels();
+  void GoWithout();
 
   bool stale_ = true;  // the pixels are older than the picture
+  bool told_ = false;  // that there was no memory for them
   bool held_ = false;
   QImage pixels_;
   RestTip rest_tip_{*this};

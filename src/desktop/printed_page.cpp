@@ -12,6 +12,7 @@
 #include "desktop/type.h"
 #include "desktop/window_widget.h"
 #include "output/print_page.h"
+#include "runtime/no_memory.h"
 
 namespace orvane {
 namespace {
@@ -89,6 +90,7 @@ void DrawPicture(QPainter& painter, const Sheet& sheet, int dots, Skin& skin, co
   const QRectF at = sheet.On(box.At);
   const int width = ImagePixels(at.width(), dots), height = ImagePixels(at.height(), dots);
   QImage image(width, height, QImage::Format_RGB32);
+  if (image.isNull()) FailMemory();
   skin.raster.Paint(*picture, static_cast<double>(width) / picture->Width,
                     reinterpret_cast<std::uint32_t*>(image.bits()), width, height,
                     static_cast<int>(image.bytesPerLine() / 4));

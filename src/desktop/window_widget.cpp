@@ -76,7 +76,9 @@ WindowWidget::WindowWidget(Skin& of, Window& window) : skin(of), shown(window) {
   setCursor(ShapeOf(shown.MousePointer));
 }
 
-WindowWidget::~WindowWidget() = default;
+// Its widgets hear that they are hidden, and what they then ask their window for must still be
+// there: the toolkit would hide them when nothing of this class is left.
+WindowWidget::~WindowWidget() { hide(); }
 
 void WindowWidget::MakeWidgets() {
   if (HasMenus(shown)) strip = new MenuStrip(*this, *desk_);

@@ -1,0 +1,114 @@
+#include "random_windows/agreement.h"
+
+#include <QAction>
+#include <QLineEdit>
+
+#include "controls/kinds.h"
+#include "desktop/control_view.h"
+#include "desktop/menu_strip.h"
+#include "desktop/picture_widget.h"
+#include "desktop/row_list.h"
+#include "desktop/window_widget.h"
+#include "draw/surface.h"
+
+namespace orvane {
+namespace {
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString Spoken(const Control& control) {
+  if (!control.Row.Spoken.empty()) return Text(control.Row.Spoken);
+  return Text(control.Caption.Get()).remove(u'&').trimmed();
+}
+
+Qt::CursorShape ShapeOf(int pointer) {
+  return pointer == kPointerCross       ? Qt::CrossCursor
+         : pointer == kPointerHourglass ? Qt::WaitCursor
+                                        : Qt::ArrowCursor;
+}
+
+std::string EntryDiffers(const WindowWidget& window, const Control& entry) {
+  const QAction* action = window.strip->ActionOf(entry);
+  if (action == nullptr) return "is on no menu";
+  if (action->text() != Text(entry.Caption.Get())) return "reads otherwise";
+  if (action->isVisible() != entry.Visible) return "is visible or not";
+  if (action->isEnabled() != (entry.Enabled && entry.Visible)) return "is enabled or not";
+  return "";
+}
+
+std::string ListDiffers(const RowList& shown, const List& list) {
+  const auto& rows = list.Rows.Get();
+  if (shown.Rows().size() != static_cast<qsizetype>(rows.size())) return "has other rows";
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    if (shown.Rows()[static_cast<qsizetype>(row)] != Text(rows[row])) return "has another row";
+  }
+  return shown.ChosenRow() == list.ListIndex ? "" : "has another row chosen";
+}
+
+std::string ViewDiffers(const ControlView& view) {
+  const Control& control = view.control;
+  const QWidget& widget = view.widget;
+  if (widget.isHidden() == control.Visible) return "is visible or not";
+  if (widget.isEnabledTo(widget.parentWidget()) != control.Enabled) return "is enabled or not";
+  if (widget.accessibleName() != Spoken(control)) return "is spoken otherwise";
+  if (widget.size().isEmpty() && control.At.Get().Width > 0) return "has no size";
+  if (control.Row.Kind == ControlKind::List) {
+    return ListDiffers(dynamic_cast<const RowList&>(widget), dynamic_cast<const List&>(control));
+  }
+  if (control.Row.Kind == ControlKind::TextBox) {
+    const auto& box = dynamic_cast<const TextBox&>(control);
+    if (dynamic_cast<const QLineEdit&>(widget).text() != Text(box.Text.Get())) {
+      return "holds another text";
+    }
+  }
+  return "";
+}
+
+// What is on the screen of a picture against one that is made anew.
+std::string PixelsDiffer(ControlView& view) {
+  auto* shown = dynamic_cast<PictureWidget*>(&view);
+  const auto* box = dynamic_cast<const PictureBox*>(&view.control);
+  if (shown == nullptr || box == nullptr || !shown->isVisible()) return "";
+  const QImage pixels = shown->Pixels();
+  const auto picture = box->Image();
+  QImage anew(pixels.size(), QImage::Format_RGB32);
+  Raster().Paint(*picture, static_cast<double>(anew.width()) / picture->Width,
+                 reinterpret_cast<std::uint32_t*>(anew.bits()), anew.width(), anew.height(),
+                 static_cast<int>(anew.bytesPerLine() / 4));
+  return pixels == anew ? "" : "shows another picture";
+}
+
+std::string WindowDiffers(Skin& skin, Window& shown, bool thorough) {
+  WindowWidget& window = skin.WindowOf(shown);
+  if (window.isVisible() != shown.Visible) return shown.Name + " is visible or not";
+  if (window.windowTitle() != Text(shown.Caption.Get())) return shown.Name + " has another title";
+  if (window.cursor().shape() != ShapeOf(shown.MousePointer)) {
+    return shown.Name + " has another pointer";
+  }
+  for (Control* control : shown.Controls) {
+    std::string differs;
+    if (control->Row.Kind == ControlKind::MenuEntry) {
+      differs = EntryDiffers(window, *control);
+    } else if (ControlView* view = window.ViewOf(*control)) {
+      differs = ViewDiffers(*view);
+      if (thorough && differs.empty()) differs = PixelsDiffer(*view);
+    }
+    if (!differs.empty()) return control->FullName() + " " + differs;
+  }
+  return "";
+}
+
+}  // namespace
+
+std::string WhatDiffers(Skin& skin, bool thorough) {
+  for (Window* window : skin.desk.windows) {
+    if (!window->WasShown) continue;  // it has no widgets yet
+    std::string differs = WindowDiffers(skin, *window, thorough);
+    if (!differs.empty()) return differs;
+  }
+  return "";
+}
+
+}  // namespace orvane

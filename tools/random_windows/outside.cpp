@@ -1,0 +1,42 @@
+#include "random_windows/outside.h"
+
+#include <utility>
+
+#include <QPainter>
+
+#include "desktop/printed_page.h"
+#include "desktop/skin.h"
+
+namespace orvane {
+
+void OutsideAtRandom::FailureBox(std::string_view text) {
+  ++Failures;
+  QtPlatform::FailureBox(text);
+}
+
+void OutsideAtRandom::LetEventsRun() {
+  const bool was = std::exchange(IsLetting, true);
+  QtPlatform::LetEventsRun();
+  IsLetting = was;
+}
+
+void OutsideAtRandom::Wait(int) { LetEventsRun(); }
+
+bool OutsideAtRandom::PrintWindow(Window& page) {
+  if (!HasPrinter) return false;
+  constexpr int kDots = 72;
+  QImage paper(8 * kDots, 11 * kDots, QImage::Format_RGB32);
+  QPainter painter(&paper);
+  if (auto* own = dynamic_cast<PrintPage*>(&page)) {
+    DrawPrintPage(painter, paper.rect(), kDots, *skin, *own);
+  } else {
+    DrawWindow(painter, paper.rect(), kDots, *skin, page);
+  }
+  return true;
+}
+
+std::string OutsideAtRandom::ProgramFolder() {
+  return folder_.path().toStdString() + (SavesFail ? "/nowhere" : "");
+}
+
+}  // namespace orvane

@@ -1,0 +1,32 @@
+// The outside world of windows at random: the program's own, but for what would reach beyond them.
+#pragma once
+
+#include <QTemporaryDir>
+
+#include "desktop/qt_platform.h"
+
+namespace orvane {
+
+// Boxes are the real ones. Pictures go to a folder that is gone afterwards, pages onto paper of
+// memory, and a wait lets events run once instead of until the next second.
+class OutsideAtRandom : public QtPlatform {
+ public:
+  bool Ended = false;      // the program was told to end
+  bool SavesFail = false;  // there is no folder to save to
+  bool HasPrinter = true;
+  bool IsLetting = false;  // events are let run
+  int Failures = 0;        // boxes that told of one
+
+  void Beep() override {}
+  void FailureBox(std::string_view text) override;
+  void LetEventsRun() override;
+  void Wait(int seconds) override;
+  void EndProgram() override { Ended = true; }
+  bool PrintWindow(Window& page) override;
+  std::string ProgramFolder() override;
+
+ private:
+  QTemporaryDir folder_;
+};
+
+}  // namespace orvane

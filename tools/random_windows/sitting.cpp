@@ -1,0 +1,125 @@
+#include "random_windows/sitting.h"
+
+#include <memory>
+#include <utility>
+
+#include <QTest>
+#include <QThread>
+#include <QTimerEvent>
+
+#include "desk/actions.h"
+#include "desktop/window_widget.h"
+#include "random_desk/always.h"
+#include "random_windows/agreement.h"
+#include "random_windows/hands.h"
+#include "random_windows/timers.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kThoroughEvery = 16;
+constexpr int kDeepest = 3;      // events inside events
+constexpr int kNestOneIn = 4;    // where events are let run and nothing is up
+constexpr int kMostInOne = 300;  // events while one is under way; then what is up is ended
+
+struct Table : QObject {
+  OutsideAtRandom outside;
+  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(outside);
+  Orvane_Desk& desk = *owned;
+  Skin skin{desk, outside};
+  HeldTimers timers;
+  Hands hands;
+  Stay sitting;
+  Freedom freedom;
+  LastSeen last;
+  int most;
+  int depth = 0;  // events that are under way
+  int in_this_one = 0;
+  int level = 0;      // of event loops, where the innermost of them began
+  int listening = 0;  // a timer's number
+
+  Table(std::uint64_t seed, int events,
+        const std::function<void(const std::string& event)>& telling)
+      : hands{{seed}, skin, outside, telling}, most(events) {
+    NoteLoads();
+    skin.ShowWindows();
+    if (hands.dice.OneIn(8)) return;
+    Click(desk, desk.front.Get_in);
+    Click(desk, desk.content.Get_in);
+  }
+
+  // Whoever may load says so, also when it fails.
+  void NoteLoads() {
+    const auto loads = [this](const Event&) { freedom.MayHaveLoaded = true; };
+    for (Control* control :
+         std::initializer_list<Control*>{&desk.main.AA_Lst, &desk.main.Pro_Lst, &desk.main.Nuc_Lst,
+                                         &desk.main.DNA_Lst, &desk.main.Bt_M_Ld}) {
+      control->Bind(EventKind::Click, loads);
+      control->Bind(EventKind::Failed, loads);
+    }
+    desk.main.Picture1.Bind(EventKind::Release,
+                            [this](const Event&) { freedom.MayHaveLostAxis = true; });
+  }
+
+  bool IsOver() const { return sitting.Events >= most || outside.Ended || !sitting.Wrong.empty(); }
+
+  void MakeOne() {
+    ++sitting.Events;
+    ++depth;
+    const int outer_level = std::exchange(level, LoopLevel());
+    Listen();
+    OneEvent(hands);
+    level = outer_level;
+    --depth;
+  }
+
+  static int LoopLevel() { return QThread::currentThread()->loopLevel(); }
+
+  // While an event is under way, what waits inside it gets some: a box its answer, a tick whatever
+  // nests in it. The toolkit's own steps from one event to the next are no such place.
+  void ComeInBetween() {
+    if (depth == 0) return;
+    Listen();
+    const bool box_waits = LoopLevel() > level;
+    if (!box_waits && !outside.IsLetting) return;
+    if (box_waits && (IsOver() || ++in_this_one > kMostInOne)) {
+      DismissWhatIsUp();
+    } else if (!IsOver() && (box_waits || (depth <= kDeepest && hands.dice.OneIn(kNestOneIn)))) {
+      MakeOne();
+    }
+  }
+
+  // A timer of no time comes with the next events that are let run. One does not come while it is
+  // still being heard, so each time it is another.
+  void Listen() {
+    if (listening == 0) listening = startTimer(0);
+  }
+  void timerEvent(QTimerEvent*) override {
+    killTimer(std::exchange(listening, 0));
+    ComeInBetween();
+  }
+
+  void Check() {
+    const bool thorough = sitting.Events % kThoroughEvery == 0;
+    sitting.Wrong = WhatIsWrong(desk, std::exchange(freedom, {}), last, thorough);
+    if (sitting.Wrong.empty()) sitting.Wrong = WhatDiffers(skin, thorough);
+  }
+};
+
+}  // namespace
+
+Stay SitDown(std::uint64_t seed, int events,
+             const std::function<void(const std::string& event)>& telling) {
+  Table table(seed, events, telling);
+  while (!table.IsOver()) {
+    table.in_this_one = 0;
+    table.MakeOne();
+    QCoreApplication::processEvents();
+    table.Check();
+  }
+  while (SomethingIsUp()) DismissWhatIsUp();
+  table.sitting.Failures = table.outside.Failures;
+  return table.sitting;
+}
+
+}  // namespace orvane
