@@ -15,6 +15,7 @@
 namespace orvane {
 
 class Window;
+enum class SpokenRole : std::uint8_t;  // controls/spoken.h
 
 enum class ControlKind : std::uint8_t {
   Panel,
@@ -63,6 +64,7 @@ struct ControlRow {
   bool Enabled = true;
   std::string_view Tip{};     // one clause, verb first: what a click does
   std::string_view Spoken{};  // name for a screen reader where the caption is none
+  SpokenRole Role{};          // what it is for a screen reader where the kind does not tell
   int TabStop = 0;            // place in the tab order, from 1; 0 takes no focus
 };
 

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
+#include "controls/spoken.h"
 #include "desk/actions.h"
+#include "desktop/accessible_widget.h"
 #include "desktop/palette.h"
 #include "desktop/skin.h"
-#include "desktop/type.h"
 #include "desktop/window_widget.h"
 
 namespace orvane {
@@ -28,13 +29,16 @@ QString Text(std::string_view text) {
 ControlView::ControlView(WindowWidget& owner, Control& shown, QWidget& own)
     : control(shown), widget(own), host(owner) {
   widget.setObjectName(Text(control.FullName()));
-  widget.setAccessibleDescription(Text(control.Row.Tip));
   widget.setToolTip(Text(control.Row.Tip));
   widget.setMouseTracking(true);
   widget.setFocusPolicy(control.Row.TabStop > 0 ? Qt::StrongFocus : Qt::NoFocus);
+}
+
+void ControlView::Begin() {
+  widget.setAccessibleName(Text(SpokenName(control)));
+  widget.setAccessibleDescription(Text(control.Row.Tip));
   widget.setEnabled(control.Enabled);
   widget.setVisible(control.Visible);
-  ControlView::Take(Aspect::Caption);
 }
 
 void ControlView::Take(Aspect aspect) {
@@ -55,9 +59,12 @@ void ControlView::Take(Aspect aspect) {
       widget.setFocus();
       break;
     case Aspect::Caption:
-      widget.setAccessibleName(control.Row.Spoken.empty()
-                                   ? WithoutMnemonic(Text(control.Caption.Get())).trimmed()
-                                   : Text(control.Row.Spoken));
+      widget.setAccessibleName(Text(SpokenName(control)));
+      TellState(*this);
+      Announce(*this);
+      break;
+    case Aspect::Look:
+      TellState(*this);
       break;
     default:
       break;
@@ -69,6 +76,14 @@ void ControlView::Lay() {
   const QWidget* above = widget.parentWidget();
   spot_ = SpotOf(host.scale, host.OnDesk(Absolute(control, StandsAt())), Outset());
   widget.setGeometry(spot_.Hull.translated(-above->mapTo(&host.Desk(), QPoint(0, 0))));
+}
+
+void ControlView::ClickInTheMiddle() {
+  const QPointF at = SurfacePoint(FaceInWidget().center());
+  const auto x = static_cast<float>(at.x()), y = static_cast<float>(at.y());
+  Press(host.skin.desk, control, kLeftButton, x, y);
+  Release(host.skin.desk, control, kLeftButton, x, y);
+  Click(host.skin.desk, control);
 }
 
 double ControlView::Unit() const { return host.scale.Unit(); }

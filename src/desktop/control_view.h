@@ -25,10 +25,15 @@ class ControlView {
   QWidget& widget;
   WindowWidget& host;
 
+  // Takes over what the control is, once the widget is whole: from then on a screen reader may ask.
+  void Begin();
   // Something of the control has changed.
   virtual void Take(Aspect aspect);
   // Puts the widget at the control's place.
   virtual void Lay();
+
+  // A press and a click in the middle, as keys and a screen reader do it.
+  void ClickInTheMiddle();
 
   double Unit() const;                               // device pixels to a pixel of the plan
   const Spot& Stand() const { return spot_; }        // in the desk

@@ -31,6 +31,8 @@ ControlView* MakeFileList(WindowWidget& window, FileList& list, QWidget& parent)
 DriveWidget::DriveWidget(WindowWidget& owner, FileList& shown, QWidget& parent)
     : Viewed(owner, shown, parent), list_(shown) {}
 
+QString DriveWidget::Path() const { return PathOf(list_); }
+
 // What a reader would call a drive: home, the root, and whatever was plugged in.
 QStringList DriveWidget::Drives() {
   QStringList drives{QDir::homePath(), QDir::rootPath()};

@@ -15,6 +15,8 @@ class DriveWidget : public Viewed<QWidget> {
   DriveWidget(WindowWidget& owner, FileList& shown, QWidget& parent);
 
   static QStringList Drives();
+  QString Path() const;  // of the open drive
+  void OpenMenu();
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -23,7 +25,6 @@ class DriveWidget : public Viewed<QWidget> {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void OpenMenu();
   void Choose(const QString& path);
 
   FileList& list_;
@@ -36,7 +37,6 @@ class FolderList : public RowList {
 
   void Take(Aspect aspect) override;
 
- protected:
   void Choose(int row) override;
   void ChooseTwice(int row) override;
 
@@ -54,7 +54,6 @@ class SoundFileList : public RowList {
 
   void Take(Aspect aspect) override;
 
- protected:
   void Choose(int row) override;
   void ChooseTwice(int row) override;
 

@@ -12,7 +12,6 @@ class ListWidget : public RowList {
 
   void Take(Aspect aspect) override;
 
- protected:
   void Choose(int row) override;
   void ChooseTwice(int row) override;
 

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QMenu>
 
+#include "controls/spoken.h"
 #include "desk/actions.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
@@ -32,6 +33,7 @@ bool HasMenus(const Window& window) {
 
 MenuStrip::MenuStrip(WindowWidget& window, QWidget& desk) : QMenuBar(&desk), window_(window) {
   setNativeMenuBar(false);
+  setAccessibleName(QStringLiteral("Menus"));
   for (Control* control : window_.shown.Controls) {
     if (control->Row.Kind == ControlKind::MenuEntry) Add(*control);
   }
@@ -66,6 +68,9 @@ void MenuStrip::Add(Control& entry) {
 void MenuStrip::Take(Control& entry) {
   QAction* action = actions_.value(&entry);
   action->setText(QString::fromStdString(entry.Caption));
+  if (QMenu* menu = menus_.value(&entry)) {
+    menu->setAccessibleName(QString::fromStdString(SpokenName(entry)));
+  }
   action->setEnabled(entry.Enabled);
   action->setVisible(entry.Visible);
   const std::string_view tip = entry.Row.Tip;

@@ -213,7 +213,7 @@ void Plate::mouseReleaseEvent(QMouseEvent* event) {
   if (click) Click(host.skin.desk, control);
 }
 
-// Space and Enter are a press and a click in the middle.
+// Space and Enter are a click.
 void Plate::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   const bool own = hasFocus();  // else it has come up from a control that stands on this one
@@ -227,11 +227,7 @@ void Plate::keyReleaseEvent(QKeyEvent* event) {
   if (!held_ || event->isAutoRepeat()) return event->ignore();
   held_ = false;
   update();
-  const QPointF at = SurfacePoint(FaceInWidget().center());
-  const auto x = static_cast<float>(at.x()), y = static_cast<float>(at.y());
-  Press(host.skin.desk, control, kLeftButton, x, y);
-  Release(host.skin.desk, control, kLeftButton, x, y);
-  Click(host.skin.desk, control);
+  ClickInTheMiddle();
 }
 
 }  // namespace orvane

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QTimer>
+
+#include "desktop/accessible_list.h"
 #include "desktop/flyout.h"
 #include "desktop/palette.h"
 #include "desktop/type.h"
@@ -39,6 +42,14 @@ QRect RowList::RowFace(int row) const {
   const int above = face.top() + corner(top), below = face.top() + corner(top + measures_.Height);
   return {face.left() + corner(measures_.Inset), above,
           face.width() - corner(measures_.Inset) - corner(right), below - above};
+}
+
+QRect RowList::RowInWidget(int row) const {
+  const QRect face = RowFace(row).translated(-Stand().Face.topLeft());
+  const double ratio = host.scale.Ratio;
+  return QRectF(QPointF(face.topLeft()) / ratio + FaceInWidget().topLeft(),
+                QSizeF(face.size()) / ratio)
+      .toAlignedRect();
 }
 
 QPoint RowList::RowMiddle(int row) const {
@@ -138,10 +149,12 @@ void RowList::SetRows(QStringList rows) {
 }
 
 void RowList::SetChosen(int row) {
+  const int before = chosen_;
   chosen_ = row;
   if (row >= 0 && row < first_) ScrollTo(row);
   if (row >= first_ + WholeRows()) ScrollTo(row - WholeRows() + 1);
   update();
+  TellChosen(*this, before, row);
 }
 
 void RowList::ScrollTo(int first) {
@@ -203,6 +216,12 @@ void RowList::mouseDoubleClickEvent(QMouseEvent* event) {
 void RowList::leaveEvent(QEvent* event) {
   QWidget::leaveEvent(event);
   Point(-1);
+}
+
+// The toolkit tells of the list itself once this is over, and the row has to come after it.
+void RowList::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  QTimer::singleShot(0, this, [this] { TellKeyboardAtRow(*this); });
 }
 
 void RowList::focusOutEvent(QFocusEvent* event) {

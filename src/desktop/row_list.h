@@ -25,15 +25,17 @@ class RowList : public Viewed<QWidget> {
   const QStringList& Rows() const { return rows_; }
   int ChosenRow() const { return chosen_; }
   int FirstRow() const { return first_; }
-  int WholeRows() const;              // rows that fit without being cut
-  QRect RowFace(int row) const;       // device pixels of the desk
-  QPoint RowMiddle(int row) const;    // in the widget's pixels
-  QString RowAsDrawn(int row) const;  // cut where it does not fit
+  int WholeRows() const;                  // rows that fit without being cut
+  int RowAt(QPointF widget_point) const;  // -1 beside the rows
+  QRect RowFace(int row) const;           // device pixels of the desk
+  QRect RowInWidget(int row) const;       // in the widget's pixels
+  QPoint RowMiddle(int row) const;        // in the widget's pixels
+  QString RowAsDrawn(int row) const;      // cut where it does not fit
 
- protected:
   virtual void Choose(int row) = 0;  // the user clicks a row or comes to it by a key
   virtual void ChooseTwice(int row) { (void)row; }
 
+ protected:
   void SetRows(QStringList rows);
   void SetChosen(int row);  // scrolls it into view
 
@@ -43,6 +45,7 @@ class RowList : public Viewed<QWidget> {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -58,7 +61,6 @@ class RowList : public Viewed<QWidget> {
     QString Key, Rest;
   };
   Parts PartsOf(int row) const;
-  int RowAt(QPointF widget_point) const;
   int LastFirst() const;  // the first row when the last one is in view
   bool HasBar() const { return LastFirst() > 0; }
   QRectF BarThumb() const;     // device pixels of the face

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "desk/actions.h"
+#include "desktop/accessible_widget.h"
 #include "desktop/control_view.h"
 #include "desktop/key_sheet_window.h"
 #include "desktop/window_widget.h"
@@ -16,6 +17,7 @@ constexpr int kBeat = 8;  // milliseconds; no screen in a classroom shows more p
 
 Skin::Skin(Orvane_Desk& of, QtPlatform& outside) : desk(of), platform(outside) {
   platform.skin = this;
+  InstallAccessibleWidgets();
   beat_.setSingleShot(true);
   beat_.setTimerType(Qt::PreciseTimer);
   QObject::connect(&beat_, &QTimer::timeout, &beat_, [this] { RepaintNow(); });

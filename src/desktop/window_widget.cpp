@@ -85,7 +85,10 @@ void WindowWidget::MakeWidgets() {
   for (Control* control : shown.Controls) {
     const auto above = views_.find(control->Parent);
     QWidget& parent = above == views_.end() ? *desk_ : above->second->widget;
-    if (ControlView* view = MakeView(*this, *control, parent)) views_[control] = view;
+    ControlView* view = MakeView(*this, *control, parent);
+    if (view == nullptr) continue;
+    view->Begin();
+    views_[control] = view;
   }
   flyout->raise();
 }

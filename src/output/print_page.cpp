@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "controls/spoken.h"
+
 namespace orvane {
 namespace {
 
@@ -19,7 +21,7 @@ constexpr auto kRows = std::to_array<ControlRow>({
     {.Name = "R_Img",    .Kind = ImageBox, .At = {3360, 2160, 3135, 3135}, .Spoken = "Right view"},
     {.Name = "AA_name",  .Kind = Panel,    .Caption = "Right Form (D-AA)", .At = { 120, 5520, 2070,  285}},
     {.Name = "Image1",   .Kind = ImageBox, .At = { 600, 1200, 5400, 5400}, .Visible = false, .Spoken = "Picture of the molecule"},
-    {.Name = "Panel3D4", .Kind = Panel,    .At = {0, 0, 480, 480}, .Visible = false},
+    {.Name = "Panel3D4", .Kind = Panel,    .At = {0, 0, 480, 480}, .Visible = false, .Role = SpokenRole::Group},
     {.Name = "OVN_Icon", .Kind = ImageBox, .Parent = "Panel3D4", .At = {0, 0, 480, 480}, .Spoken = "Icon of Orvane"},
     {.Name = "MMControl1", .Kind = Ornament, .Visible = false},
 });

@@ -1,0 +1,41 @@
+#include "desktop/accessible_list.h"
+#include "desktop/accessible_value.h"
+#include "desktop/accessible_widget.h"
+#include "desktop/control_view.h"
+#include "desktop/window_widget.h"
+
+namespace orvane {
+namespace {
+
+QAccessibleInterface* OfView(ControlView& view) {
+  const SpokenRole role = RoleOf(view.control);
+  switch (role) {
+    case SpokenRole::Entry:
+      return nullptr;  // the toolkit's own reads and types letters
+    case SpokenRole::List:
+      return new AccessibleList(view.widget, role);
+    case SpokenRole::Dropdown:
+      return new AccessibleDrives(view.widget, role);
+    case SpokenRole::Slider:
+      return new AccessibleBar(view.widget, role);
+    default:
+      return new AccessibleControl(view.widget, role);
+  }
+}
+
+QAccessibleInterface* Make(const QString&, QObject* object) {
+  if (auto* view = dynamic_cast<ControlView*>(object)) return OfView(*view);
+  if (auto* window = dynamic_cast<WindowWidget*>(object)) {
+    return new AccessibleWidget(window, QAccessible::Window);
+  }
+  if (auto* ground = dynamic_cast<Ground*>(object)) {
+    return new AccessibleWidget(ground, QAccessible::Pane);
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void InstallAccessibleWidgets() { QAccessible::installFactory(Make); }
+
+}  // namespace orvane

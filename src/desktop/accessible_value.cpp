@@ -1,0 +1,72 @@
+#include "desktop/accessible_value.h"
+
+#include "desktop/bar_widget.h"
+#include "desktop/file_list_widget.h"
+
+namespace orvane {
+
+BarWidget* AccessibleBar::Bar() const { return dynamic_cast<BarWidget*>(widget()); }
+
+QString AccessibleBar::text(QAccessible::Text which) const {
+  if (which == QAccessible::Value) return currentValue().toString();
+  return AccessibleControl::text(which);
+}
+
+void* AccessibleBar::interface_cast(QAccessible::InterfaceType type) {
+  if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+  return AccessibleControl::interface_cast(type);
+}
+
+QVariant AccessibleBar::currentValue() const {
+  const BarWidget* bar = Bar();
+  return bar == nullptr ? QVariant() : QVariant(bar->value());
+}
+
+void AccessibleBar::setCurrentValue(const QVariant& value) {
+  BarWidget* bar = Bar();
+  if (bar != nullptr && bar->control.IsOpenToUser()) bar->setValue(value.toInt());
+}
+
+QVariant AccessibleBar::maximumValue() const {
+  const BarWidget* bar = Bar();
+  return bar == nullptr ? QVariant() : QVariant(bar->maximum());
+}
+
+QVariant AccessibleBar::minimumValue() const {
+  const BarWidget* bar = Bar();
+  return bar == nullptr ? QVariant() : QVariant(bar->minimum());
+}
+
+QVariant AccessibleBar::minimumStepSize() const {
+  const BarWidget* bar = Bar();
+  return bar == nullptr ? QVariant() : QVariant(bar->singleStep());
+}
+
+QStringList AccessibleBar::OwnActions() const { return {increaseAction(), decreaseAction()}; }
+
+void AccessibleBar::Do(const QString& name) {
+  BarWidget* bar = Bar();
+  if (bar == nullptr) return;
+  const int step = name == increaseAction() ? bar->singleStep() : -bar->singleStep();
+  setCurrentValue(bar->value() + step);
+}
+
+QString AccessibleDrives::text(QAccessible::Text which) const {
+  const auto* drives = dynamic_cast<DriveWidget*>(widget());
+  if (which == QAccessible::Value && drives != nullptr) return drives->Path();
+  return AccessibleControl::text(which);
+}
+
+QAccessible::State AccessibleDrives::state() const {
+  QAccessible::State state = AccessibleControl::state();
+  state.hasPopup = true;
+  return state;
+}
+
+QStringList AccessibleDrives::OwnActions() const { return {showMenuAction(), pressAction()}; }
+
+void AccessibleDrives::Do(const QString&) {
+  if (auto* drives = dynamic_cast<DriveWidget*>(widget())) drives->OpenMenu();
+}
+
+}  // namespace orvane

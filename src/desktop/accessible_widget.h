@@ -1,0 +1,55 @@
+// What a screen reader finds at a widget of the house: its words, its role and state, what may be
+// done to it, and those of its children that say something.
+#pragma once
+
+#include <QAccessibleWidget>
+
+#include "controls/spoken.h"
+
+namespace orvane {
+
+class ControlView;
+
+// A window, or the ground on which its controls stand.
+class AccessibleWidget : public QAccessibleWidget {
+ public:
+  using QAccessibleWidget::QAccessibleWidget;
+
+  QString text(QAccessible::Text which) const override;
+  int childCount() const override;
+  QAccessibleInterface* child(int index) const override;
+  int indexOfChild(const QAccessibleInterface* child) const override;
+  QAccessibleInterface* childAt(int x, int y) const override;
+
+ private:
+  QList<QWidget*> Children() const;  // without ornaments and flyouts
+};
+
+// A control. Its words are of the logic; what a reader does to it is what the user may do.
+class AccessibleControl : public AccessibleWidget {
+ public:
+  AccessibleControl(QWidget& widget, SpokenRole role);
+
+  QString text(QAccessible::Text which) const override;
+  QAccessible::State state() const override;
+  QRect rect() const override;
+  QStringList actionNames() const override;
+  void doAction(const QString& name) override;
+
+ protected:
+  // A widget on its way out is no view any more, and may still be asked.
+  ControlView* View() const;
+  virtual QStringList OwnActions() const;  // the first is what a click does
+  virtual void Do(const QString& name);    // once the reader has its answer
+
+  const SpokenRole role_;
+};
+
+// The reader of a screen hears: the state of a toggle, a result by itself.
+void TellState(ControlView& view);
+void Announce(ControlView& view);
+
+// From now on the house's widgets are read as above.
+void InstallAccessibleWidgets();
+
+}  // namespace orvane
