@@ -1,6 +1,8 @@
 #include "desktop/accessible_list.h"
+#include "desktop/accessible_picture.h"
 #include "desktop/accessible_value.h"
 #include "desktop/accessible_widget.h"
+#include "desktop/accessible_words.h"
 #include "desktop/control_view.h"
 #include "desktop/window_widget.h"
 
@@ -18,6 +20,9 @@ QAccessibleInterface* OfView(ControlView& view) {
       return new AccessibleDrives(view.widget, role);
     case SpokenRole::Slider:
       return new AccessibleBar(view.widget, role);
+    case SpokenRole::Picture:
+      if (view.control.Row.TabStop > 0) return new AccessiblePicture(view.widget, role);
+      [[fallthrough]];
     default:
       return new AccessibleControl(view.widget, role);
   }
@@ -30,6 +35,9 @@ QAccessibleInterface* Make(const QString&, QObject* object) {
   }
   if (auto* ground = dynamic_cast<Ground*>(object)) {
     return new AccessibleWidget(ground, QAccessible::Pane);
+  }
+  if (auto* announcer = dynamic_cast<Announcer*>(object)) {
+    return new AccessibleWidget(announcer, QAccessible::Notification);
   }
   return nullptr;
 }

@@ -6,6 +6,9 @@
 
 #include "desktop/control_view.h"
 #include "desktop/flyout.h"
+#include "desktop/skin.h"
+#include "desktop/window_widget.h"
+#include "reading/spoken_words.h"
 
 namespace orvane {
 namespace {
@@ -50,8 +53,9 @@ bool IsPassedOver(QWidget* widget) {
 }  // namespace
 
 QString AccessibleWidget::text(QAccessible::Text which) const {
-  if (which == QAccessible::Name) return widget()->window()->windowTitle();
-  return QAccessibleWidget::text(which);
+  if (which != QAccessible::Name) return QAccessibleWidget::text(which);
+  const QString own = widget()->accessibleName();
+  return own.isEmpty() ? widget()->window()->windowTitle() : own;
 }
 
 QList<QWidget*> AccessibleWidget::Children() const {
@@ -93,11 +97,14 @@ AccessibleControl::AccessibleControl(QWidget& widget, SpokenRole role)
 ControlView* AccessibleControl::View() const { return dynamic_cast<ControlView*>(widget()); }
 
 QString AccessibleControl::text(QAccessible::Text which) const {
+  const ControlView* view = View();
+  if (view == nullptr) return AccessibleWidget::text(which);
+  const Orvane_Desk& desk = view->host.skin.desk;
   switch (which) {
     case QAccessible::Name:
-      return widget()->accessibleName();
+      return QString::fromStdString(NameNow(desk, view->control));
     case QAccessible::Description:
-      return widget()->accessibleDescription();
+      return QString::fromStdString(DescriptionNow(desk, view->control));
     default:
       return AccessibleWidget::text(which);
   }

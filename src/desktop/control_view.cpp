@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "controls/spoken.h"
 #include "desk/actions.h"
 #include "desktop/accessible_widget.h"
 #include "desktop/palette.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
+#include "reading/spoken_words.h"
 
 namespace orvane {
 namespace {
@@ -35,8 +35,9 @@ ControlView::ControlView(WindowWidget& owner, Control& shown, QWidget& own)
 }
 
 void ControlView::Begin() {
-  widget.setAccessibleName(Text(SpokenName(control)));
-  widget.setAccessibleDescription(Text(control.Row.Tip));
+  const Orvane_Desk& desk = host.skin.desk;
+  widget.setAccessibleName(Text(NameNow(desk, control)));
+  widget.setAccessibleDescription(Text(DescriptionNow(desk, control)));
   widget.setEnabled(control.Enabled);
   widget.setVisible(control.Visible);
 }
@@ -59,7 +60,7 @@ void ControlView::Take(Aspect aspect) {
       widget.setFocus();
       break;
     case Aspect::Caption:
-      widget.setAccessibleName(Text(SpokenName(control)));
+      widget.setAccessibleName(Text(NameNow(host.skin.desk, control)));
       TellState(*this);
       Announce(*this);
       break;

@@ -40,6 +40,7 @@ void Skin::Changed(Control& control, Aspect aspect) {
   if (comes) WindowOf(control.Owner);
   const auto window = windows_.find(&control.Owner);
   if (window != windows_.end()) window->second->Take(control, aspect);
+  words_.Soon(control.Owner);
 }
 
 void Skin::ShowWindows() {

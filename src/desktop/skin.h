@@ -12,6 +12,7 @@
 
 #include "controls/window.h"
 #include "desk/orvane_desk.h"
+#include "desktop/accessible_words.h"
 #include "desktop/qt_platform.h"
 #include "desktop/sight.h"
 #include "desktop/ticker.h"
@@ -54,7 +55,8 @@ class Skin : public ControlWatcher {
 
   std::unordered_map<const Window*, std::unique_ptr<WindowWidget>> windows_;
   std::unordered_map<const Timer*, std::unique_ptr<Ticker>> tickers_;
-  std::unique_ptr<KeySheetWindow> sheet_;   // made when it is first asked for
+  std::unique_ptr<KeySheetWindow> sheet_;  // made when it is first asked for
+  AccessibleWords words_{*this};
   std::vector<QPointer<QWidget>> waiting_;  // pictures to paint at the next beat
   QTimer beat_;
   QElapsedTimer since_beat_;

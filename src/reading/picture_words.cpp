@@ -64,7 +64,7 @@ std::string Readout(const Orvane_Desk& desk) {
 
 }  // namespace
 
-std::string PictureWords(const Orvane_Desk& desk) {
+std::string ShownWords(const Orvane_Desk& desk) {
   if (desk.main.Picture1.Image()->Strokes.empty()) return "Empty picture";
   const std::string name = StructureName(desk);
   std::string words = name.empty() ? "A structure" : name;
@@ -74,6 +74,12 @@ std::string PictureWords(const Orvane_Desk& desk) {
   for (const Trait& row : kExtras) {
     if (row.Holds(desk)) words += ", " + std::string(row.Words);
   }
+  return words;
+}
+
+std::string PictureWords(const Orvane_Desk& desk) {
+  std::string words = ShownWords(desk);
+  if (desk.main.Picture1.Image()->Strokes.empty()) return words;
   const int picked = desk.measure.PickState;
   if (picked > 0) words += ", " + Counted(picked, "atom") + " picked";
   const std::string readout = Readout(desk);

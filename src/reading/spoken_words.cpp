@@ -1,0 +1,19 @@
+#include "reading/spoken_words.h"
+
+#include "controls/spoken.h"
+#include "reading/atom_walk.h"
+#include "reading/picture_words.h"
+
+namespace orvane {
+
+std::string NameNow(const Orvane_Desk& desk, const Control& control) {
+  const bool shows = &control == &desk.main.Picture1 || &control == &desk.main.P_Sterio;
+  return shows ? ShownWords(desk) : SpokenName(control);
+}
+
+std::string DescriptionNow(const Orvane_Desk& desk, const Control& control) {
+  const std::string walk = &control == &desk.main.Picture1 ? WalkWords(desk) : "";
+  return walk.empty() ? std::string(control.Row.Tip) : walk;
+}
+
+}  // namespace orvane
