@@ -210,7 +210,6 @@ int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
   };
   switch (metric) {
     case PM_MenuBarItemSpacing:
-      return 0;
     case PM_MenuBarHMargin:
     case PM_MenuBarVMargin:
     case PM_MenuBarPanelWidth:

@@ -258,7 +258,6 @@ void RowList::keyPressEvent(QKeyEvent* event) {
       row = last;
       break;
     case Qt::Key_Space:
-      break;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       break;
