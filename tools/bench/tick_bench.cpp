@@ -1,21 +1,25 @@
 // orvane-tick-bench: spins the double strand in a real window and prints how the ticks come, at 1
 // and at 200 milliseconds, plainly and with everything on (stereo, balls of size 6, width 6,
-// labels, hydrogen bonds). Give it a screen: xvfb-run -a orvane-tick-bench
+// labels, hydrogen bonds). Give it a screen: xvfb-run -a orvane-tick-bench [maximised]
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <memory>
+#include <string_view>
 #include <sys/resource.h>
 #include <vector>
 
 #include <QApplication>
+#include <QScreen>
+#include <QWindow>
 #include <QTimer>
 
 #include "desk/actions.h"
 #include "desktop/look_style.h"
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
+#include "desktop/window_widget.h"
 
 namespace orvane {
 namespace {
@@ -72,6 +76,15 @@ void MeasureTicks(Orvane_Desk& desk, std::vector<Clock::time_point>& ticks, cons
       scene, interval, ticks.size(), kSeconds, at(0.5), at(0.99), gaps.back(), 100 * share);
 }
 
+// Where no window manager runs, nobody else gives a maximised window its size.
+void FillTheScreen(Skin& skin, Window& window) {
+  WindowWidget& widget = skin.WindowOf(window);
+  widget.showMaximized();
+  widget.windowHandle()->setGeometry(widget.screen()->geometry());
+  QApplication::processEvents();
+  std::printf("the desk is shown %.2f times as large\n", widget.scale.Unit());
+}
+
 }  // namespace
 }  // namespace orvane
 
@@ -81,9 +94,10 @@ int main(int count, char** words) {
   DressApplication(application);
   QtPlatform platform;
   const auto desk = std::make_unique<Orvane_Desk>(platform);
-  const Skin skin(*desk, platform);
+  Skin skin(*desk, platform);
   desk->front.Hide();
   desk->main.Show();
+  if (count > 1 && std::string_view(words[1]) == "maximised") FillTheScreen(skin, desk->main);
   std::vector<Clock::time_point> ticks;
   desk->main.Timer1.Bind(EventKind::Tick, [&](const Event&) { ticks.push_back(Clock::now()); });
 
