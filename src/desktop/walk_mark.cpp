@@ -14,7 +14,8 @@ namespace {
 // Pixels at 100 per cent.
 constexpr double kLeastRadius = 6, kClear = 3;        // of the ring, and between it and a ball
 constexpr double kDarkLine = 4.5, kBrightLine = 1.5;  // the ring and what it lies on
-constexpr double kIn = 8, kPad = 6, kHeight = 18;     // of the words
+constexpr double kIn = 8, kPad = 6, kHeight = 18;     // of the words, and of one line
+constexpr double kNextLine = 15;
 constexpr Type kWords{11, 500};
 
 double RadiusOfBall(const Orvane_Desk& desk, int atom) {
@@ -23,14 +24,20 @@ double RadiusOfBall(const Orvane_Desk& desk, int atom) {
   return desk.drawing.BallSize + (element == nullptr ? 0 : element->BallRadius);
 }
 
-void PaintWords(QPainter& painter, const QRect& face, double unit, const QString& words) {
+void PaintWords(QPainter& painter, const QRect& face, double unit, const QStringList& lines) {
   const double most = face.width() / unit - 2 * kIn;
-  const double width = std::min(WidthOf(kWords, words) + 2 * kPad, most);
+  double widest = 0;
+  for (const QString& line : lines) widest = std::max(widest, WidthOf(kWords, line));
+  const double width = std::min(widest + 2 * kPad, most);
   const QRectF plate(face.left() + kIn * unit, face.top() + kIn * unit, width * unit,
-                     kHeight * unit);
+                     (kHeight + kNextLine * static_cast<double>(lines.size() - 1)) * unit);
   PaintPlate(painter, plate, palette::kBezel, palette::kDarkEdge, 4 * unit, 1);
-  DrawLine(painter, plate.adjusted(kPad * unit, 0, -kPad * unit, 0), Qt::AlignLeft, kWords,
-           palette::kOnDark, unit, words);
+  QRectF line(plate.left() + kPad * unit, plate.top(), plate.width() - 2 * kPad * unit,
+              kHeight * unit);
+  for (const QString& words : lines) {
+    DrawLine(painter, line, Qt::AlignLeft, kWords, palette::kOnDark, unit, words);
+    line.translate(0, kNextLine * unit);
+  }
 }
 
 }  // namespace
@@ -50,7 +57,7 @@ void PaintWalkMark(QPainter& painter, const QRect& face, double unit, const Orva
     painter.setPen(QPen(QColor::fromRgba(ink), line * unit));
     painter.drawEllipse(face.topLeft() + middle * unit, radius * unit, radius * unit);
   }
-  PaintWords(painter, face, unit, QString::fromStdString(WalkWords(desk)));
+  PaintWords(painter, face, unit, QString::fromStdString(WalkWordsAndRecipe(desk)).split(u'\n'));
   painter.restore();
 }
 

@@ -8,8 +8,8 @@
 
 namespace orvane {
 
-// A thin ring round the atom and its words in a corner of the picture. `face` is the picture in
-// device pixels, `unit` device pixels to a pixel of the surface.
+// A thin ring round the atom, and in a corner of the picture its words and how it was placed.
+// `face` is the picture in device pixels, `unit` device pixels to a pixel of the surface.
 void PaintWalkMark(QPainter& painter, const QRect& face, double unit, const Orvane_Desk& desk);
 
 // The ring of the keyboard, inside the picture: bright on dark, so that it is seen on any

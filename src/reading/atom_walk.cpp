@@ -7,6 +7,7 @@
 #include "desk/actions.h"
 #include "measure/picks.h"
 #include "reading/atom_words.h"
+#include "reading/recipe.h"
 
 namespace orvane {
 namespace {
@@ -105,6 +106,11 @@ std::string WalkWords(const Orvane_Desk& desk) {
   if (desk.walk.Taken == 1) return words + ", picked as the " + order;
   return words + ", picked with " + std::to_string(desk.walk.Taken - 1) + " more so close; the " +
          order + " pick is atom " + std::to_string(desk.walk.Picked);
+}
+
+std::string WalkWordsAndRecipe(const Orvane_Desk& desk) {
+  const std::string recipe = RecipeWords(desk, AtomOfWalk(desk));
+  return WalkWords(desk) + (recipe.empty() ? "" : "\n") + recipe;
 }
 
 int AtomOfWalk(const Orvane_Desk& desk) {

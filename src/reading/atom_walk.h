@@ -15,6 +15,9 @@ int AtomOfWalk(const Orvane_Desk& desk);
 // atom 2, picked as the first". Empty on none.
 std::string WalkWords(const Orvane_Desk& desk);
 
+// The same, and for an atom of a built amino acid on lines of its own how it was placed.
+std::string WalkWordsAndRecipe(const Orvane_Desk& desk);
+
 // Each stays at the end of the store and beeps where there is nothing to walk on. The first step
 // goes onto the first atom, or backwards onto the last.
 void WalkToNext(Orvane_Desk& desk);

@@ -12,7 +12,7 @@ std::string NameNow(const Orvane_Desk& desk, const Control& control) {
 }
 
 std::string DescriptionNow(const Orvane_Desk& desk, const Control& control) {
-  const std::string walk = &control == &desk.main.Picture1 ? WalkWords(desk) : "";
+  const std::string walk = &control == &desk.main.Picture1 ? WalkWordsAndRecipe(desk) : "";
   return walk.empty() ? std::string(control.Row.Tip) : walk;
 }
 

@@ -11,7 +11,8 @@ namespace orvane {
 // has its spoken name.
 std::string NameNow(const Orvane_Desk& desk, const Control& control);
 
-// The picture tells on which atom the walk stands; else it is the tip, what a click does.
+// The picture tells on which atom the walk stands and how that was placed; else it is the tip, what
+// a click does.
 std::string DescriptionNow(const Orvane_Desk& desk, const Control& control);
 
 }  // namespace orvane

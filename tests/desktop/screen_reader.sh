@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
-# The program on a virtual screen, used as by somebody who does not see it: screen_reader.sh PROGRAM.
+# The program on a virtual screen, used as by somebody who does not see it, and what its windows tell:
+# screen_reader.sh PROGRAM TESTS.
 # Screen, session bus and accessibility bus are the test's own, and end with it.
 set -euo pipefail
 program=$1
+tests=$2
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
 folder=$(mktemp -d)
 exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>/dev/null)
@@ -16,5 +18,15 @@ unset WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS AT_SPI_BUS_ADDRESS
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 dbus-run-session -- /usr/bin/python3 -B "$here/screen_reader.py" "$program" >"$folder/said" 2>&1 || {
   cat "$folder/said"
+  exit 1
+}
+# The bus for readers comes up when it is asked where it is.
+export ORVANE_TEST_PLATFORM=xcb
+# shellcheck disable=SC2016 # the words of the inner shell
+dbus-run-session -- bash -c '
+  dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress
+  exec "$0" --gtest_filter="ScreenReader.*" --gtest_brief=1' "$tests" \
+  >"$folder/told" 2>&1 && ! grep -q SKIPPED "$folder/told" || {
+  cat "$folder/told"
   exit 1
 }

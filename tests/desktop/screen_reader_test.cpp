@@ -31,6 +31,13 @@ void Do(QAccessibleInterface* reader, const QString& action) {
 const QString kPress = QAccessibleActionInterface::pressAction();
 const QString kToggle = QAccessibleActionInterface::toggleAction();
 
+// Nothing is told where nobody listens. screen_reader.sh plays these tests on a screen whose bus
+// for readers is on, and lets none of them be skipped.
+bool AReaderListens() {
+  const bool expected = qEnvironmentVariableIsSet("QT_LINUX_ACCESSIBILITY_ALWAYS_ON");
+  return QTest::qWaitFor([] { return QAccessible::isActive(); }, expected ? 20000 : 0);
+}
+
 // What readers are told while this lives.
 struct Told {
   struct Word {
@@ -44,14 +51,8 @@ struct Told {
   }
   QAccessible::UpdateHandler before;
 
-  Told() : before(QAccessible::installUpdateHandler(Hear)) {
-    QAccessible::setActive(true);
-    Words().clear();
-  }
-  ~Told() {
-    QAccessible::setActive(false);
-    QAccessible::installUpdateHandler(before);
-  }
+  Told() : before(QAccessible::installUpdateHandler(Hear)) { Words().clear(); }
+  ~Told() { QAccessible::installUpdateHandler(before); }
   static void Hear(QAccessibleEvent* event) {
     QAccessibleInterface* from = event->accessibleInterface();
     Words().push_back({event->type(), event->object(), from == nullptr ? "" : NameOf(from)});
@@ -144,6 +145,7 @@ TEST(ScreenReader, ARowIsFoundUnderThePointer) {
 }
 
 TEST(ScreenReader, ChoosingARowIsAClickOnItAndIsTold) {
+  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
   WindowAtWork work;
   List& list = work.main.AA_Lst;
   Heard clicks(list, EventKind::Click);
@@ -164,6 +166,7 @@ TEST(ScreenReader, ChoosingARowIsAClickOnItAndIsTold) {
 }
 
 TEST(ScreenReader, TheKeyboardComingToAListLeadsOnToItsRow) {
+  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
   WindowAtWork work;
   SelectRow(work.desk, work.main.Pro_Lst, 1);
   work.WidgetOf(work.main.Bt3_Dts).setFocus();
@@ -199,6 +202,7 @@ TEST(ScreenReader, WhatIsDisabledCannotBeDone) {
 }
 
 TEST(ScreenReader, AToggleTellsItsStateWhenItTurns) {
+  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
   WindowAtWork work;
   SelectRow(work.desk, work.main.AA_Lst, 2);
   QAccessibleInterface* reader = InterfaceOf(work.WidgetOf(work.main.Bt3_Label));
@@ -261,6 +265,7 @@ TEST(ScreenReader, ABoxForTypingIsReadAndTypedInto) {
 }
 
 TEST(ScreenReader, TheResultIsAnnouncedWhenItChanges) {
+  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
   WindowAtWork work;
   QAccessibleInterface* reader = InterfaceOf(work.WidgetOf(work.main.P_Dst_Show));
   EXPECT_EQ(reader->role(), QAccessible::Notification);
@@ -300,6 +305,7 @@ TEST(ScreenReader, ThePictureSaysWhatItShowsAndWhereTheWalkStands) {
 }
 
 TEST(ScreenReader, EachStepOfTheWalkIsAnnounced) {
+  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
   WindowAtWork work;
   QAccessibleInterface* picture = InterfaceOf(work.WidgetOf(work.main.Picture1));
   Told told;
@@ -321,6 +327,7 @@ TEST(ScreenReader, EachStepOfTheWalkIsAnnounced) {
 }
 
 TEST(ScreenReader, WhatThePictureShowsIsAnnouncedOnceItIsAnother) {
+  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
   WindowAtWork work;
   Told told;
   SelectRow(work.desk, work.main.AA_Lst, 2);
@@ -333,6 +340,7 @@ TEST(ScreenReader, WhatThePictureShowsIsAnnouncedOnceItIsAnother) {
 
 // The names come one after the other by keys, so all of them are heard.
 TEST(ScreenReader, ANameThatComesUpOnTheMapIsAnnounced) {
+  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
   ProgramAtWork program;
   program.GoToTheDesk();
   SelectRow(program.desk, program.desk.main.Pro_Lst, 1);

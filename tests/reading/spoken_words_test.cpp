@@ -5,7 +5,9 @@
 #include "controls/spoken.h"
 #include "desk_fixture.h"
 #include "reading/atom_walk.h"
+#include "reading/atom_words.h"
 #include "reading/picture_words.h"
+#include "reading/recipe.h"
 
 namespace orvane {
 namespace {
@@ -44,8 +46,25 @@ TEST(SpokenWords, ThePictureTellsWhereTheWalkStandsAndElseWhatAPressDoes) {
 
   WalkToNext(work.desk);
 
-  EXPECT_EQ(DescriptionNow(work.desk, picture), WalkWords(work.desk));
+  EXPECT_EQ(DescriptionNow(work.desk, picture),
+            WalkWords(work.desk) + "\n" + RecipeWords(work.desk, 1));
   EXPECT_NE(WalkWords(work.desk), "");
+}
+
+// The last atom of alanine is one that was built; the helix is a text, and nothing was.
+TEST(SpokenWords, TheWalkTellsHowABuiltAtomWasPlacedAndNothingOfOthers) {
+  DeskAtWork work;
+  SelectRow(work.desk, work.desk.main.AA_Lst, kAlanine);
+  WalkToLast(work.desk);
+  const int last = AtomOfWalk(work.desk);
+  EXPECT_EQ(last, 13);
+  EXPECT_NE(RecipeWords(work.desk, last), "");
+  EXPECT_EQ(WalkWordsAndRecipe(work.desk),
+            AtomWords(work.desk, last) + "\n" + RecipeWords(work.desk, last));
+
+  SelectRow(work.desk, work.desk.main.Pro_Lst, 1);
+  WalkToLast(work.desk);
+  EXPECT_EQ(WalkWordsAndRecipe(work.desk), AtomWords(work.desk, AtomOfWalk(work.desk)));
 }
 
 }  // namespace

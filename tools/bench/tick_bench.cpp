@@ -12,8 +12,8 @@
 
 #include <QApplication>
 #include <QScreen>
-#include <QWindow>
 #include <QTimer>
+#include <QWindow>
 
 #include "desk/actions.h"
 #include "desktop/look_style.h"

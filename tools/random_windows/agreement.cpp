@@ -4,10 +4,12 @@
 #include <QLineEdit>
 
 #include "controls/kinds.h"
+#include "controls/spoken.h"
 #include "desktop/control_view.h"
 #include "desktop/menu_strip.h"
 #include "desktop/picture_widget.h"
 #include "desktop/row_list.h"
+#include "desktop/skin.h"
 #include "desktop/window_widget.h"
 #include "draw/surface.h"
 
@@ -18,9 +20,11 @@ QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-QString Spoken(const Control& control) {
-  if (!control.Row.Spoken.empty()) return Text(control.Row.Spoken);
-  return Text(control.Caption.Get()).remove(u'&').trimmed();
+// The picture and the pair in its place are called by what they show, and no sooner than a reader
+// listens.
+bool IsCalledByWhatItShows(const ControlView& view) {
+  const MainWindow& main = view.host.skin.desk.main;
+  return &view.control == &main.Picture1 || &view.control == &main.P_Sterio;
 }
 
 Qt::CursorShape ShapeOf(int pointer) {
@@ -52,7 +56,9 @@ std::string ViewDiffers(const ControlView& view) {
   const QWidget& widget = view.widget;
   if (widget.isHidden() == control.Visible) return "is visible or not";
   if (widget.isEnabledTo(widget.parentWidget()) != control.Enabled) return "is enabled or not";
-  if (widget.accessibleName() != Spoken(control)) return "is spoken otherwise";
+  if (!IsCalledByWhatItShows(view) && widget.accessibleName() != Text(SpokenName(control))) {
+    return "is spoken otherwise";
+  }
   if (widget.size().isEmpty() && control.At.Get().Width > 0) return "has no size";
   if (control.Row.Kind == ControlKind::List) {
     return ListDiffers(dynamic_cast<const RowList&>(widget), dynamic_cast<const List&>(control));
