@@ -11,7 +11,9 @@ namespace {
 
 // Runs `orvane-replay WORDS`, with standard error behind standard output.
 Played RunProgram(const std::string& words, const std::string& script) {
-  const std::string file = ::testing::TempDir() + "orvane-replay-script.txt";
+  // Of this test's own: others run at the same time.
+  const std::string test = testing::UnitTest::GetInstance()->current_test_info()->name();
+  const std::string file = testing::TempDir() + "orvane-replay-" + test + ".txt";
   std::ofstream(file, std::ios::binary) << script;
   const std::string command = "'" ORVANE_REPLAY_PROGRAM "' " + words + " < '" + file + "' 2>&1";
   Played played;
