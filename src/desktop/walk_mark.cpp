@@ -24,8 +24,25 @@ double RadiusOfBall(const Orvane_Desk& desk, int atom) {
   return desk.drawing.BallSize + (element == nullptr ? 0 : element->BallRadius);
 }
 
-void PaintWords(QPainter& painter, const QRect& face, double unit, const QStringList& lines) {
+// A line that is too wide goes on behind its last comma that fits.
+QStringList Broken(const QString& text, double most) {
+  QStringList lines = text.split(u'\n');
+  for (qsizetype i = 0; i < lines.size(); ++i) {
+    const QString line = lines[i];
+    qsizetype comma = line.size();
+    while (comma > 0 && WidthOf(kWords, line.left(comma)) > most) {
+      comma = line.lastIndexOf(QStringLiteral(", "), comma - 1);
+    }
+    if (comma <= 0 || comma == line.size()) continue;
+    lines[i] = line.left(comma + 1);
+    lines.insert(i + 1, line.mid(comma + 2));
+  }
+  return lines;
+}
+
+void PaintWords(QPainter& painter, const QRect& face, double unit, const QString& words) {
   const double most = face.width() / unit - 2 * kIn;
+  const QStringList lines = Broken(words, most - 2 * kPad);
   double widest = 0;
   for (const QString& line : lines) widest = std::max(widest, WidthOf(kWords, line));
   const double width = std::min(widest + 2 * kPad, most);
@@ -34,8 +51,8 @@ void PaintWords(QPainter& painter, const QRect& face, double unit, const QString
   PaintPlate(painter, plate, palette::kBezel, palette::kDarkEdge, 4 * unit, 1);
   QRectF line(plate.left() + kPad * unit, plate.top(), plate.width() - 2 * kPad * unit,
               kHeight * unit);
-  for (const QString& words : lines) {
-    DrawLine(painter, line, Qt::AlignLeft, kWords, palette::kOnDark, unit, words);
+  for (const QString& part : lines) {
+    DrawLine(painter, line, Qt::AlignLeft, kWords, palette::kOnDark, unit, part);
     line.translate(0, kNextLine * unit);
   }
 }
@@ -57,7 +74,7 @@ void PaintWalkMark(QPainter& painter, const QRect& face, double unit, const Orva
     painter.setPen(QPen(QColor::fromRgba(ink), line * unit));
     painter.drawEllipse(face.topLeft() + middle * unit, radius * unit, radius * unit);
   }
-  PaintWords(painter, face, unit, QString::fromStdString(WalkWordsAndRecipe(desk)).split(u'\n'));
+  PaintWords(painter, face, unit, QString::fromStdString(WalkWordsAndRecipe(desk)));
   painter.restore();
 }
 
