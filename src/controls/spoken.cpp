@@ -51,7 +51,7 @@ SpokenRole RoleOf(const Control& control) {
 
 std::string SpokenName(const Control& control) {
   const ControlRow& row = control.Row;
-  const std::string caption = AsSpoken(control.Caption.Get());
+  std::string caption = AsSpoken(control.Caption.Get());
   if (row.Caption.empty() && !caption.empty()) return caption;
   if (!row.Spoken.empty()) return std::string(row.Spoken);
   if (!caption.empty()) return caption;

@@ -1,6 +1,7 @@
 #include "desktop/accessible_widget.h"
 
 #include <array>
+#include <ranges>
 
 #include <QTimer>
 
@@ -82,10 +83,10 @@ int AccessibleWidget::indexOfChild(const QAccessibleInterface* child) const {
 // The last child is the uppermost.
 QAccessibleInterface* AccessibleWidget::childAt(int x, int y) const {
   const QList<QWidget*> children = Children();
-  for (auto child = children.rbegin(); child != children.rend(); ++child) {
-    const QRect face((*child)->mapToGlobal(QPoint(0, 0)), (*child)->size());
-    if ((*child)->isVisible() && face.contains(x, y)) {
-      return QAccessible::queryAccessibleInterface(*child);
+  for (QWidget* child : std::ranges::reverse_view(children)) {
+    const QRect face(child->mapToGlobal(QPoint(0, 0)), child->size());
+    if (child->isVisible() && face.contains(x, y)) {
+      return QAccessible::queryAccessibleInterface(child);
     }
   }
   return nullptr;

@@ -19,7 +19,7 @@ std::string ReadAsReplay(Bytes bytes) {
   std::string line;
   for (int n = 0; n < kMostLines && !player.platform->Ended && std::getline(script, line); ++n) {
     if (!PlayLine(player, line).empty()) break;
-    const std::string wrong = WhatIsWrong(*player.desk, {true, true}, last, true);
+    std::string wrong = WhatIsWrong(*player.desk, {true, true}, last, true);
     if (!wrong.empty()) return wrong;
   }
   return "";

@@ -82,7 +82,9 @@ TEST(TheDeskPage, TellsOfBothStatesOfEachToggle) {
     const std::string off = OnScreen(toggle.Caption.Get());
     session.Do("click " + std::string(name));
     const std::string on = OnScreen(toggle.Caption.Get());
-    EXPECT_NE(page.find("`" + off + "` / `" + on + "`"), std::string::npos) << off << " / " << on;
+    std::string both = "`";
+    both.append(off).append("` / `").append(on).append("`");
+    EXPECT_NE(page.find(both), std::string::npos) << both;
     session.Do("click " + std::string(name));
   }
   session.Do("restart\nenter\nselect AA_Lst 2\nclick Bt3_D_L_Str");

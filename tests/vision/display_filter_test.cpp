@@ -106,6 +106,7 @@ TEST(TheDisplayFilter, HasNoJumpAnywhereOnTheCircleOfHues) {
   for (const Eye eye : kEyes) {
     const DisplayFilter filter(eye);
     std::vector<Colour> circle;
+    circle.reserve(6 * 255);
     for (int i = 0; i < 255; ++i) circle.push_back(Rgb(255, i, 0));
     for (int i = 0; i < 255; ++i) circle.push_back(Rgb(255 - i, 255, 0));
     for (int i = 0; i < 255; ++i) circle.push_back(Rgb(0, 255, i));
@@ -132,6 +133,7 @@ TEST(TheDisplayFilter, AppliesToWordsWhatItShowsForAColour) {
     }
     ASSERT_GT(colours.size(), 8192u);
     std::vector<std::uint32_t> words;
+    words.reserve(colours.size());
     for (const Colour colour : colours) words.push_back(Word(colour));
 
     filter.Apply(words.data(), words.size());

@@ -124,9 +124,34 @@ long PeakOf(pid_t pid) {
   return 0;
 }
 
+pid_t Start(char** command) {
+  const pid_t child = fork();
+  if (child == 0) {
+    setpgid(0, 0);
+    execvp(*command, command);
+    std::perror(*command);
+    _exit(127);
+  }
+  setpgid(child, child);
+  return child;
+}
+
+double MillisecondsSince(Clock::time_point begin) {
+  return std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
+}
+
+int TimeWhole(char** command) {
+  const auto begin = Clock::now();
+  int status = 0;
+  waitpid(Start(command), &status, 0);
+  std::printf("%.2f\n", MillisecondsSince(begin));
+  return WIFEXITED(status) ? WEXITSTATUS(status) : 1;
+}
+
 }  // namespace
 
 int main(int count, char** words) {
+  if (count > 2 && std::string_view(words[1]) == "--run") return TimeWhole(words + 2);
   const bool is_led = count > 3 && std::string_view(words[1]) == "--then";
   char** command = words + (is_led ? 3 : 1);
   if (*command == nullptr) {
@@ -139,20 +164,13 @@ int main(int count, char** words) {
     return 2;
   }
   const auto begin = Clock::now();
-  const pid_t child = fork();
-  if (child == 0) {
-    setpgid(0, 0);
-    execvp(*command, command);
-    std::perror(*command);
-    _exit(127);
-  }
-  setpgid(child, child);
+  const pid_t child = Start(command);
   bool painted = false;
   while (!painted && Clock::now() - begin < kPatience && waitpid(child, nullptr, WNOHANG) == 0) {
     painted = screen.ShowsAPaintedWindow();
     if (!painted) std::this_thread::sleep_for(milliseconds(1));
   }
-  const double passed = std::chrono::duration<double, std::milli>(Clock::now() - begin).count();
+  const double passed = MillisecondsSince(begin);
   long peak = 0;
   bool led = true;
   if (painted && is_led) led = std::system(words[2]) == 0;
