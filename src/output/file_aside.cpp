@@ -42,7 +42,8 @@ std::string PathOf(const std::string& folder, const std::string& name) {
 // Open until its end, and gone then unless it was renamed.
 class FileAside {
  public:
-  explicit FileAside(const std::string& path) : path_(path + ".XXXXXX") {
+  // The system puts letters of its own in the place of six X.
+  explicit FileAside(const std::string& path) : path_(path + "." + std::string(6, 'X')) {
     file_ = mkostemp(path_.data(), O_CLOEXEC);
   }
   FileAside(const FileAside&) = delete;

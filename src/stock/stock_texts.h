@@ -11,8 +11,8 @@ extern const std::string_view TextGeneral;
 extern const std::string_view TextFrame;
 extern const std::string_view TextDipeptide;
 
-// Regular chains. Alfa and Beta have a placeholder R for each side chain, Alfb is polyalanine with
-// its hydrogens.
+// Regular chains. In Alfa and Beta one atom R stands for a whole side chain, Alfb is polyalanine
+// with its hydrogens.
 extern const std::string_view TextAlfa;
 extern const std::string_view TextAlfb;
 extern const std::string_view TextBeta;

@@ -169,7 +169,7 @@ TEST(PeptideLesson, AnglesAddUpTo360InAPlaneAndToLessRoundTheAlphaCarbon) {
 }
 
 TEST(PeptideLesson, TheOutlineClosesToALine) {
-  // Part 2 of the sheet: eight moves of four degrees about X, 33 being wanted. The picture is
+  // The student turns by eight moves of four degrees about X, 33 being wanted. The picture is
   // looked at along z, so the group's normal then lies in the picture.
   Session session;
   session.Do("enter\nselect Pro_Lst 0\npress Picture1 2 20 20");
