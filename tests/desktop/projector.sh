@@ -1,9 +1,12 @@
 #!/usr/bin/env bash
-# The projector's view: the program on a virtual screen of 1920 by 1080 with a window manager, made
-# large and small again by its title bar, as a teacher does: projector.sh PROGRAM.
+# The projector's view: the program on a virtual screen with a window manager, made large and small
+# again by its title bar, as a teacher does: projector.sh PROGRAM [WIDTHxHEIGHT [DENSITY [PICTURE]]].
+# PICTURE: a file for what the screen shows while the desk is large.
 set -euo pipefail
 program=$1
-exec 3< <(exec Xvfb -displayfd 1 -screen 0 1920x1080x24 -nolisten tcp 2>/dev/null)
+size=${2:-1920x1080}
+export QT_SCALE_FACTOR=${3:-1}
+exec 3< <(exec Xvfb -displayfd 1 -screen 0 "${size}x24" -nolisten tcp 2>/dev/null)
 screen=$!
 children=("$screen")
 trap 'kill "${children[@]}" 2>/dev/null || true' EXIT
@@ -39,8 +42,15 @@ until_true "no window came up" find_window '^Orvane \(OVN\) V3\.0$'
 
 WIDTH=0 HEIGHT=0
 measure() { eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=')"; }
-is_normal() { measure && [ "$WIDTH $HEIGHT" = "567 485" ]; }
-is_large() { measure && [ "$WIDTH" = 1920 ] && [ "$HEIGHT" -gt 1000 ]; }
+# The plan at that density, or where the screen is too small for it, smaller in the same proportions.
+is_normal() {
+  measure && echo "$WIDTH $HEIGHT $QT_SCALE_FACTOR ${size%x*} ${size#*x}" | awk '{
+    whole = $1 >= int(567 * $3) && $1 <= 567 * $3 + 1 && $2 >= int(485 * $3) && $2 <= 485 * $3 + 1
+    fits = 567 * $3 <= $4 && 485 * $3 <= $5
+    smaller = $1 < $4 && $2 < $5 && $2 > $5 / 2 && ($1 / $2 - 567 / 485) ^ 2 < 0.0001
+    exit !(fits ? whole : smaller) }'
+}
+is_large() { measure && [ "$WIDTH" = "${size%x*}" ] && [ "$HEIGHT" -gt $((${size#*x} * 9 / 10)) ]; }
 # From the plan of 567 by 485 to the window: as large as it allows, and in its middle.
 on_screen() {  # x y ...
   echo "$@" | awk -v w="$WIDTH" -v h="$HEIGHT" '{
@@ -75,9 +85,11 @@ picture() {  # its square, 48 to 417 by 44 to 413, as one number
 }
 has_another_picture() { [ "$(picture)" != "$was" ]; }
 
-until_true "the window is not 567 x 485" is_normal
+until_true "the window has not the size of the plan" is_normal
+fixed="$WIDTH $HEIGHT"
+is_back() { measure && [ "$WIDTH $HEIGHT" = "$fixed" ]; }
 until_true "the picture is not black" is_pixel 232 200 000000
-point 480 79 && xdotool click 1  # alanine, the third row of the first list
+point 480 79 && xdotool click 1  # glycine, the second row of the first list
 point 130 32 && xdotool click 1  # as balls
 until_true "no ball of nitrogen" see_nitrogen
 small_ball=$ball
@@ -107,8 +119,9 @@ xdotool mouseup 3
 until_true "a drag turns nothing" has_another_picture
 
 # Small again, it has its fixed size, and a press still lands where it looks.
+[ -z "${4:-}" ] || import -window root "$4"
 turn_large
-until_true "it does not come back to its fixed size" is_normal
+until_true "it does not come back to its fixed size" is_back
 until_true "no ball of nitrogen behind it" see_nitrogen
 before=$(white_at $ball)
 point $ball && xdotool click 1
