@@ -75,7 +75,10 @@ constexpr int Distance(std::uint32_t a, std::uint32_t b) {
 std::uint8_t Nearest(std::uint32_t word) {
   int best = 0, least = std::numeric_limits<int>::max();
   for (int i = 0; i < kPalette.Count; ++i) {
-    const int distance = Distance(word, kPalette.Words[static_cast<std::size_t>(i)]);
+    const std::uint32_t candidate = kPalette.Words[static_cast<std::size_t>(i)];
+    const int green = Part(word, 8) - Part(candidate, 8);
+    if (4 * green * green >= least) continue;  // green alone is too far off, as it mostly is
+    const int distance = Distance(word, candidate);
     if (distance < least) {
       least = distance;
       best = i;
