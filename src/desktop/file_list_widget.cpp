@@ -106,11 +106,20 @@ void DriveWidget::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-FolderList::FolderList(WindowWidget& owner, FileList& shown, QWidget& parent)
+FolderRows::FolderRows(WindowWidget& owner, FileList& shown, QWidget& parent)
     : RowList(owner, shown, parent), list_(shown) {
   has_keys_ = joined_ = false;
   edge_ = palette::kEdge;
   measures_ = kWide;
+}
+
+void FolderRows::Take(Aspect aspect) {
+  RowList::Take(aspect);
+  if (aspect == Aspect::Rows) ReadFolder();
+}
+
+FolderList::FolderList(WindowWidget& owner, FileList& shown, QWidget& parent)
+    : FolderRows(owner, shown, parent) {
   ReadFolder();
 }
 
@@ -134,11 +143,6 @@ void FolderList::ReadFolder() {
   SetChosen(chosen);
 }
 
-void FolderList::Take(Aspect aspect) {
-  RowList::Take(aspect);
-  if (aspect == Aspect::Rows) ReadFolder();
-}
-
 void FolderList::Choose(int row) { SetChosen(row); }
 
 void FolderList::ChooseTwice(int row) {
@@ -146,10 +150,7 @@ void FolderList::ChooseTwice(int row) {
 }
 
 SoundFileList::SoundFileList(WindowWidget& owner, FileList& shown, QWidget& parent)
-    : RowList(owner, shown, parent), list_(shown) {
-  has_keys_ = joined_ = false;
-  edge_ = palette::kEdge;
-  measures_ = kWide;
+    : FolderRows(owner, shown, parent) {
   ReadFolder();
 }
 
@@ -164,8 +165,7 @@ void SoundFileList::ReadFolder() {
 }
 
 void SoundFileList::Take(Aspect aspect) {
-  RowList::Take(aspect);
-  if (aspect == Aspect::Rows) ReadFolder();
+  FolderRows::Take(aspect);
   if (aspect == Aspect::Value) {
     SetChosen(static_cast<int>(Rows().indexOf(QString::fromStdString(list_.FileName))));
   }

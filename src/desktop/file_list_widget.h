@@ -30,25 +30,35 @@ class DriveWidget : public Viewed<QWidget> {
   FileList& list_;
 };
 
-// A double click or Enter opens a folder.
-class FolderList : public RowList {
+// Rows that are read from the disk, anew when the control has another folder.
+class FolderRows : public RowList {
  public:
-  FolderList(WindowWidget& owner, FileList& shown, QWidget& parent);
+  FolderRows(WindowWidget& owner, FileList& shown, QWidget& parent);
 
   void Take(Aspect aspect) override;
+
+ protected:
+  virtual void ReadFolder() = 0;  // at first by the class that is made of this one
+
+  FileList& list_;
+};
+
+// A double click or Enter opens a folder.
+class FolderList : public FolderRows {
+ public:
+  FolderList(WindowWidget& owner, FileList& shown, QWidget& parent);
 
   void Choose(int row) override;
   void ChooseTwice(int row) override;
 
  private:
-  void ReadFolder();
+  void ReadFolder() final;
 
-  FileList& list_;
   QStringList paths_;  // of the rows
 };
 
 // A click chooses a file; a double click or Enter is the control's double click.
-class SoundFileList : public RowList {
+class SoundFileList : public FolderRows {
  public:
   SoundFileList(WindowWidget& owner, FileList& shown, QWidget& parent);
 
@@ -58,9 +68,7 @@ class SoundFileList : public RowList {
   void ChooseTwice(int row) override;
 
  private:
-  void ReadFolder();
-
-  FileList& list_;
+  void ReadFolder() final;
 };
 
 }  // namespace orvane

@@ -4,8 +4,8 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "desktop/application.h"
 #include "desktop/icon.h"
-#include "desktop/look_style.h"
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
 
@@ -18,13 +18,10 @@ constexpr int kIconAfter = 200;
 }  // namespace
 
 int main(int count, char** words) {
-  QApplication::setDesktopSettingsAware(false);
-  QApplication application(count, words);
+  orvane::Application application(count, words);
   QApplication::setApplicationName(QStringLiteral("Orvane"));
   // The entry that gives the window its icon where windows have none of their own.
   QGuiApplication::setDesktopFileName(QStringLiteral("orvane"));
-  QApplication::setQuitOnLastWindowClosed(false);
-  orvane::DressApplication(application);
 
   orvane::QtPlatform platform;
   const auto desk = std::make_unique<orvane::Orvane_Desk>(platform);

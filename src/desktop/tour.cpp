@@ -11,7 +11,7 @@
 #include <QPixmap>
 
 #include "desk/actions.h"
-#include "desktop/look_style.h"
+#include "desktop/application.h"
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
@@ -78,11 +78,8 @@ int Tour(const QString& folder) {
 }  // namespace orvane
 
 int main(int count, char** words) {
-  QApplication::setDesktopSettingsAware(false);
-  QApplication application(count, words);
+  orvane::Application application(count, words);
   QApplication::setApplicationName(QStringLiteral("Orvane"));
-  QApplication::setQuitOnLastWindowClosed(false);
-  orvane::DressApplication(application);
   const QStringList arguments = QApplication::arguments();
   return orvane::Tour(arguments.size() > 1 ? arguments[1] : QStringLiteral("build/tour"));
 }

@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-#include "desktop/look_style.h"
+#include "desktop/application.h"
 #include "desktop/picture_widget.h"
 #include "desktop/window_fixture.h"
 #include "memory/memory_that_runs_out.h"
@@ -51,8 +51,6 @@ TEST(NoMemoryForAWindow, IsToldOnceAndThePictureComesBack) {
 int main(int count, char** words) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&count, words);
-  QApplication::setDesktopSettingsAware(false);
-  QApplication application(count, words);
-  orvane::DressApplication(application);
+  orvane::Application application(count, words);
   return RUN_ALL_TESTS();
 }

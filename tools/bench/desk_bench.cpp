@@ -100,14 +100,9 @@ BENCHMARK(StereoTick);
 }  // namespace orvane::bench
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  if (!orvane::bench::IsHeaviest(orvane::bench::HeaviestDesk())) {
-    std::fputs("the heaviest picture is not what it should be\n", stderr);
-    return 1;
-  }
+  if (!orvane::bench::CanMakeHeaviest()) return 1;
   orvane::bench::Ratios ratios;
-  benchmark::RunSpecifiedBenchmarks(&ratios);
-  ratios.PrintTimes();
+  orvane::bench::RunAll(argc, argv, ratios);
   ratios.Print("heaviest repaint, list and raster / memset", "HeaviestListAndRaster", "Memset",
                {.AtMost = 20});
   ratios.Print("heaviest repaint, raster alone / memset", "HeaviestRaster", "Memset");

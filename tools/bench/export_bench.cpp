@@ -96,10 +96,8 @@ BENCHMARK(WholeRecording)->Unit(benchmark::kMillisecond);
 }  // namespace orvane::bench
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
   orvane::bench::Ratios ratios;
-  benchmark::RunSpecifiedBenchmarks(&ratios);
-  ratios.PrintTimes();
+  orvane::bench::RunAll(argc, argv, ratios);
   ratios.Print("one BMP / memset of the surface", "OneBmp", "Memset");
   ratios.Print("one JPEG / memset of the surface", "OneJpeg", "Memset");
   ratios.Print("one GIF / memset of the surface", "OneGif", "Memset");

@@ -90,10 +90,8 @@ Curve CurveOf(const Ratios& ratios, const Row& row) {
 int main(int argc, char** argv) {
   using namespace orvane::bench;
   RegisterAll();
-  benchmark::Initialize(&argc, argv);
   Ratios ratios;
-  benchmark::RunSpecifiedBenchmarks(&ratios);
-  ratios.PrintTimes();
+  RunAll(argc, argv, ratios);
   std::vector<Curve> curves;
   for (const Row& row : kRows) {
     curves.push_back(CurveOf(ratios, row));

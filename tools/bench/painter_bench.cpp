@@ -124,14 +124,9 @@ BENCHMARK(APainterForEachStroke);
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  if (!orvane::bench::IsHeaviest(orvane::bench::HeaviestDesk())) {
-    std::fputs("the heaviest picture is not what it should be\n", stderr);
-    return 1;
-  }
+  if (!orvane::bench::CanMakeHeaviest()) return 1;
   orvane::bench::Ratios ratios;
-  benchmark::RunSpecifiedBenchmarks(&ratios);
-  ratios.PrintTimes();
+  orvane::bench::RunAll(argc, argv, ratios);
   ratios.Print("one painter with cached pens / ours", "OnePainterWithCachedPens", "Ours",
                {.AtLeast = 15});
   ratios.Print("a painter for each stroke / ours", "APainterForEachStroke", "Ours");

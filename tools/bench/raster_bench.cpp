@@ -66,14 +66,9 @@ BENCHMARK(MemsetLarge)->Arg(kDense)->Arg(kMaximised)->Arg(kMaximisedDense);
 }  // namespace orvane::bench
 
 int main(int argc, char** argv) {
-  benchmark::Initialize(&argc, argv);
-  if (!orvane::bench::IsHeaviest(orvane::bench::HeaviestDesk())) {
-    std::fputs("the heaviest picture is not what it should be\n", stderr);
-    return 1;
-  }
+  if (!orvane::bench::CanMakeHeaviest()) return 1;
   orvane::bench::Ratios ratios;
-  benchmark::RunSpecifiedBenchmarks(&ratios);
-  ratios.PrintTimes();
+  orvane::bench::RunAll(argc, argv, ratios);
   ratios.Print("heaviest repaint, raster alone / memset", "Repaint", "Memset");
   ratios.Print("both halves of a stereo pair / memset", "BothHalvesOfAStereoPair", "Memset");
   ratios.Print("raster at twice the density / memset of as much", "RepaintLarge/720",

@@ -65,4 +65,11 @@ class Ratios : public benchmark::ConsoleReporter {
   std::map<std::string, std::vector<double>> times_;
 };
 
+// Runs what is registered, as the words of the command say, and prints each time.
+inline void RunAll(int& argc, char** argv, Ratios& ratios) {
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks(&ratios);
+  ratios.PrintTimes();
+}
+
 }  // namespace orvane::bench

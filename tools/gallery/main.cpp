@@ -13,7 +13,7 @@
 #include <QPixmap>
 
 #include "desk/actions.h"
-#include "desktop/look_style.h"
+#include "desktop/application.h"
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
@@ -127,10 +127,7 @@ bool KeepAll(const QString& folder) {
 }  // namespace orvane
 
 int main(int count, char** words) {
-  QApplication::setDesktopSettingsAware(false);
-  QApplication application(count, words);
-  QApplication::setQuitOnLastWindowClosed(false);
-  orvane::DressApplication(application);
+  orvane::Application application(count, words);
   const QStringList arguments = QApplication::arguments();
   if (arguments.size() != 2) {
     std::fprintf(stderr, "usage: orvane-gallery FOLDER\n");

@@ -19,7 +19,7 @@
 #include <QElapsedTimer>
 #include <QPixmap>
 
-#include "desktop/look_style.h"
+#include "desktop/application.h"
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
@@ -95,10 +95,7 @@ int PlayWithPictures(const char* script, const QDir& folder) {
 }  // namespace orvane
 
 int main(int count, char** words) {
-  QApplication::setDesktopSettingsAware(false);
-  QApplication application(count, words);
-  QApplication::setQuitOnLastWindowClosed(false);
-  orvane::DressApplication(application);
+  orvane::Application application(count, words);
   if (count != 3) {
     std::fprintf(stderr, "usage: orvane-handbook SCRIPT FOLDER\n");
     return 2;

@@ -1,6 +1,5 @@
 // orvane-random-desk: plays at random for as long as one likes, and leaves a short script of what
 // went wrong.
-#include <charconv>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
@@ -8,6 +7,7 @@
 #include <string_view>
 
 #include "random_desk/life.h"
+#include "random_desk/numbers.h"
 #include "random_desk/shrink.h"
 #include "random_desk/trial.h"
 
@@ -30,19 +30,15 @@ struct Options {
 };
 
 bool ReadOptions(int argc, char** argv, Options& options) {
+  const NumberOption numbers[] = {
+      {"--actions", &options.Actions}, {"--seed", &options.Seed}, {"--life", &options.Life}};
   for (int i = 1; i + 1 < argc; i += 2) {
     const std::string_view name = argv[i], value = argv[i + 1];
     if (name == "--play") {
       options.Play = value;
-      continue;
+    } else if (!ReadNumber(numbers, name, value)) {
+      return false;
     }
-    long* number = name == "--actions" ? &options.Actions
-                   : name == "--seed"  ? &options.Seed
-                   : name == "--life"  ? &options.Life
-                                       : nullptr;
-    if (number == nullptr) return false;
-    const auto [end, error] = std::from_chars(value.begin(), value.end(), *number);
-    if (error != std::errc() || end != value.end()) return false;
   }
   return argc % 2 == 1;
 }

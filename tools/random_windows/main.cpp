@@ -1,6 +1,5 @@
 // orvane-random-windows: events at random at the real windows, on no screen. Each sitting is a
 // process of its own, so that a crash ends that sitting alone and its events are known.
-#include <charconv>
 #include <cstdio>
 #include <deque>
 #include <fstream>
@@ -11,7 +10,8 @@
 
 #include <QApplication>
 
-#include "desktop/look_style.h"
+#include "desktop/application.h"
+#include "random_desk/numbers.h"
 #include "random_windows/sitting.h"
 
 namespace orvane {
@@ -34,15 +34,10 @@ struct Options {
 };
 
 bool ReadOptions(int argc, char** argv, Options& options) {
+  const NumberOption numbers[] = {
+      {"--events", &options.Events}, {"--seed", &options.Seed}, {"--sitting", &options.Sitting}};
   for (int i = 1; i + 1 < argc; i += 2) {
-    const std::string_view name = argv[i], value = argv[i + 1];
-    long* number = name == "--events"    ? &options.Events
-                   : name == "--seed"    ? &options.Seed
-                   : name == "--sitting" ? &options.Sitting
-                                         : nullptr;
-    if (number == nullptr) return false;
-    const auto [end, error] = std::from_chars(value.begin(), value.end(), *number);
-    if (error != std::errc() || end != value.end()) return false;
+    if (!ReadNumber(numbers, argv[i], argv[i + 1])) return false;
   }
   return argc % 2 == 1;
 }
@@ -59,11 +54,8 @@ int Sit(long seed, int events, const std::string& file) {
   char name[] = "orvane";
   char* words[] = {name, nullptr};
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication::setDesktopSettingsAware(false);
   qInstallMessageHandler(BeQuiet);
-  QApplication application(count, words);
-  QApplication::setQuitOnLastWindowClosed(false);
-  DressApplication(application);
+  Application application(count, words);
   const Stay sitting =
       SitDown(static_cast<std::uint64_t>(seed), events, [&](const std::string& event) {
         lines << event << "\n" << std::flush;

@@ -1,0 +1,26 @@
+// The words of a command that plays at random: pairs of a name and a number.
+#pragma once
+
+#include <algorithm>
+#include <charconv>
+#include <span>
+#include <string_view>
+
+namespace orvane {
+
+struct NumberOption {
+  std::string_view Name;
+  long* Value;
+};
+
+// Writes the number of the option of that name; false when there is none, or `text` is no number.
+inline bool ReadNumber(std::span<const NumberOption> options, std::string_view name,
+                       std::string_view text) {
+  const auto option = std::find_if(options.begin(), options.end(),
+                                   [&](const NumberOption& row) { return row.Name == name; });
+  if (option == options.end()) return false;
+  const auto [end, error] = std::from_chars(text.begin(), text.end(), *option->Value);
+  return error == std::errc() && end == text.end();
+}
+
+}  // namespace orvane
