@@ -34,11 +34,10 @@ class MenuEntry : public Control {
 
 class List : public Control {
  public:
-  List(Window& window, std::string_view name)
-      : Control(window, name), Rows(*this, {}), ListIndex(*this, -1) {}
+  using Control::Control;
 
-  Watched<std::vector<std::string>, Aspect::Rows> Rows;
-  Watched<int, Aspect::Value> ListIndex;  // chosen row from 0; -1: none
+  Watched<std::vector<std::string>, Aspect::Rows> Rows{*this, {}};
+  Watched<int, Aspect::Value> ListIndex{*this, -1};  // chosen row from 0; -1: none
 
   // Text of the chosen row, empty without one.
   std::string Text() const {
@@ -53,12 +52,11 @@ class List : public Control {
 // keeps the folder and the pattern that are shown, and the file under the pointer.
 class FileList : public Control {
  public:
-  FileList(Window& window, std::string_view name)
-      : Control(window, name), Path(*this, ""), Pattern(*this, ""), FileName(*this, "") {}
+  using Control::Control;
 
-  Watched<std::string, Aspect::Rows> Path;       // folder whose content is listed
-  Watched<std::string, Aspect::Rows> Pattern;    // "*.wav;*.au"
-  Watched<std::string, Aspect::Value> FileName;  // chosen file
+  Watched<std::string, Aspect::Rows> Path{*this, ""};       // folder whose content is listed
+  Watched<std::string, Aspect::Rows> Pattern{*this, ""};    // "*.wav;*.au"
+  Watched<std::string, Aspect::Value> FileName{*this, ""};  // chosen file
 };
 
 class TextBox : public Control {

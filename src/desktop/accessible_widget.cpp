@@ -1,7 +1,7 @@
 #include "desktop/accessible_widget.h"
 
+#include <algorithm>
 #include <array>
-#include <ranges>
 
 #include <QTimer>
 
@@ -83,13 +83,12 @@ int AccessibleWidget::indexOfChild(const QAccessibleInterface* child) const {
 // The last child is the uppermost.
 QAccessibleInterface* AccessibleWidget::childAt(int x, int y) const {
   const QList<QWidget*> children = Children();
-  for (QWidget* child : std::ranges::reverse_view(children)) {
+  const auto uppermost = std::find_if(children.crbegin(), children.crend(), [&](QWidget* child) {
     const QRect face(child->mapToGlobal(QPoint(0, 0)), child->size());
-    if (child->isVisible() && face.contains(x, y)) {
-      return QAccessible::queryAccessibleInterface(child);
-    }
-  }
-  return nullptr;
+    return child->isVisible() && face.contains(x, y);
+  });
+  return uppermost == children.crend() ? nullptr
+                                       : QAccessible::queryAccessibleInterface(*uppermost);
 }
 
 AccessibleControl::AccessibleControl(QWidget& widget, SpokenRole role)

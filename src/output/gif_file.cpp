@@ -148,7 +148,7 @@ FileBytes Written(const GifFileType& gif, int width, int height) {
   file->ImageCount = gif.ImageCount;
   const int result = EGifSpew(file.get());
   if (result == GIF_OK) {
-    file.release();  // writing to the end has closed it
+    static_cast<void>(file.release());  // writing to the end has closed it
   } else if (file->SColorMap == map.get()) {
     file->SColorMap = nullptr;
   }

@@ -17,7 +17,7 @@ std::string ReadAsGif(Bytes bytes) {
   const Bitmap picture = SmallPicture();
   const auto longer = WithOneMoreFrame(file, picture);
   if (!longer.has_value()) return "";
-  if (!longer->size()) return "nothing was written";
+  if (longer->empty()) return "nothing was written";
   if (!WithOneMoreFrame(*longer, picture).has_value()) return "what was written cannot be read";
   return "";
 }

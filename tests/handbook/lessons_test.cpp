@@ -140,7 +140,6 @@ TEST(TheLessons, AreAllHere) {
 }
 
 constexpr const char* kPeptide = "docs/lessons/peptide-bond/teacher.md";
-constexpr const char* kHands = "docs/lessons/hands/teacher.md";
 constexpr const char* kPairs = "docs/lessons/base-pairs/teacher.md";
 
 TEST(PeptideLesson, TheSixAtomsLieInOnePlane) {

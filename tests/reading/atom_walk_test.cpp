@@ -1,5 +1,6 @@
 #include "reading/atom_walk.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 #include "draw/placed_atoms.h"
@@ -68,8 +69,10 @@ TEST_F(AtomWalkTest, TellsTheWatcherOfThePictureOfEachStep) {
 
 TEST_F(AtomWalkTest, BeepsWhereThereIsNothingToWalkOn) {
   const std::vector<std::string> beep{"beep"};
-  for (void (*step)(Orvane_Desk&) :
-       {WalkToNext, WalkToPrevious, WalkToFirst, WalkToLast, PickWalked}) {
+  using Step = void (*)(Orvane_Desk&);
+  constexpr std::array<Step, 5> kSteps{WalkToNext, WalkToPrevious, WalkToFirst, WalkToLast,
+                                       PickWalked};
+  for (const Step step : kSteps) {
     platform.Effects.clear();
     step(desk);
     EXPECT_EQ(platform.Effects, beep);
