@@ -1,6 +1,7 @@
 #include "growth_picture.h"
 
 #include <cmath>
+#include <cstdarg>
 #include <cstdio>
 
 namespace orvane::bench {
@@ -18,10 +19,12 @@ double Down(double time) {
   return kBottom - (kBottom - kTop) * std::log(time / kShortest) / std::log(kLongest / kShortest);
 }
 
-template <class... Values>
-std::string Format(const char* format, Values... values) {
-  char line[400];
-  std::snprintf(line, sizeof line, format, values...);
+[[gnu::format(printf, 1, 2)]] std::string Format(const char* format, ...) {
+  std::va_list values;
+  va_start(values, format);
+  char line[2000];  // the longest, a curve, has twelve characters for each of its points
+  std::vsnprintf(line, sizeof line, format, values);
+  va_end(values);
   return line;
 }
 
