@@ -188,7 +188,7 @@ void BarWidget::keyPressEvent(QKeyEvent* event) {
 
 void BarWidget::wheelEvent(QWheelEvent* event) {
   const QPoint turn = event->angleDelta();
-  const int notches = (turn.y() != 0 ? turn.y() : turn.x()) / 120;
+  const int notches = turn_.NotchesOf(turn.y() != 0 ? turn.y() : turn.x());
   if (notches != 0) StepBy(-notches * bar_.Range.SmallStep);
   event->accept();
 }

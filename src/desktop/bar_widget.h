@@ -7,6 +7,7 @@
 
 #include "controls/scroll_bar.h"
 #include "desktop/control_view.h"
+#include "desktop/wheel_turn.h"
 
 namespace orvane {
 
@@ -40,7 +41,8 @@ class BarWidget : public Viewed<QAbstractSlider> {
   ScrollBar& bar_;
   bool lies_;  // left to right
   bool dragging_ = false;
-  double grip_ = 0;     // from the thumb's start to where it is held
+  double grip_ = 0;  // from the thumb's start to where it is held
+  WheelTurn turn_;
   double pointer_ = 0;  // along the bar, while a step repeats
   int held_step_ = 0;   // what the held button steps by; 0: none
   QBasicTimer repeat_;

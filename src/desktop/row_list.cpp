@@ -275,8 +275,7 @@ void RowList::keyPressEvent(QKeyEvent* event) {
 }
 
 void RowList::wheelEvent(QWheelEvent* event) {
-  const int notches = event->angleDelta().y() / 120;
-  ScrollTo(first_ - notches);
+  ScrollTo(first_ - turn_.NotchesOf(event->angleDelta().y()));
   Point(RowAt(event->position()));
   event->accept();
 }

@@ -7,6 +7,7 @@
 
 #include "desktop/control_view.h"
 #include "desktop/type.h"
+#include "desktop/wheel_turn.h"
 
 namespace orvane {
 
@@ -76,6 +77,7 @@ class RowList : public Viewed<QWidget> {
   bool by_keys_ = false;  // the chosen row was reached by keys
   bool bar_held_ = false;
   double grip_ = 0;
+  WheelTurn turn_;
 };
 
 }  // namespace orvane

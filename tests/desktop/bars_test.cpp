@@ -81,11 +81,71 @@ TEST(Bars, KeysAndWheelMoveIt) {
   EXPECT_EQ(work.bar.Value, -100);
   QTest::keyClick(&work.widget, Qt::Key_PageDown);
   EXPECT_EQ(work.bar.Value, -95);
-  const QPointF at = work.widget.rect().center();
-  QWheelEvent away(at, work.widget.mapToGlobal(at), {}, QPoint(0, 120), Qt::NoButton, {},
-                   Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&work.widget, &away);
+  work.TurnWheel(work.widget, work.widget.rect().center(), 120);
   EXPECT_EQ(work.bar.Value, -100);
+}
+
+// X_TRANS steps by 5 and by 10.
+TEST(Bars, ArrowKeysAreSmallStepsAndPageKeysLargeOnes) {
+  WindowAtWork work;
+  const ScrollBar& bar = work.main.X_TRANS;
+  QWidget& widget = work.WidgetOf(bar);
+  widget.setFocus();
+
+  QTest::keyClick(&widget, Qt::Key_PageDown);
+  EXPECT_EQ(bar.Value, 10);
+  QTest::keyClick(&widget, Qt::Key_Left);
+  EXPECT_EQ(bar.Value, 5);
+  QTest::keyClick(&widget, Qt::Key_PageUp);
+  EXPECT_EQ(bar.Value, -5);
+  QTest::keyClick(&widget, Qt::Key_Down);
+  EXPECT_EQ(bar.Value, 0);
+  QTest::keyClick(&widget, Qt::Key_Up);
+  EXPECT_EQ(bar.Value, -5);
+}
+
+TEST(Bars, ATouchpadTurnsByPartsOfANotch) {
+  BarAtWork work;
+  const QPoint at = work.widget.rect().center();
+
+  for (int part = 0; part < 3; ++part) work.TurnWheel(work.widget, at, -30);
+  EXPECT_EQ(work.bar.Value, 0);
+  work.TurnWheel(work.widget, at, -30);
+  EXPECT_EQ(work.bar.Value, 5);
+  work.TurnWheel(work.widget, at, -90);
+  work.TurnWheel(work.widget, at, 30);  // back: what was not whole is forgotten
+  work.TurnWheel(work.widget, at, -90);
+  EXPECT_EQ(work.bar.Value, 5);
+}
+
+TEST(Bars, AnArrowThatIsHeldStepsOnUntilItIsLetGo) {
+  BarAtWork work;
+  const QPoint arrow(work.End() - 5, 8);
+
+  QTest::mousePress(&work.widget, Qt::LeftButton, {}, arrow);
+  EXPECT_EQ(work.bar.Value, 5);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return work.bar.Value >= 20; }));
+  QTest::mouseRelease(&work.widget, Qt::LeftButton, {}, arrow);
+  const int reached = work.bar.Value;
+  QTest::qWait(200);  // more than three repeats
+
+  EXPECT_EQ(work.bar.Value, reached);
+  EXPECT_EQ(work.changes.Count, reached / 5);
+}
+
+TEST(Bars, APageThatIsHeldStopsWithTheThumbUnderThePointer) {
+  BarAtWork work;
+  const double start = work.widget.ThumbInWidget().right();
+  const QPoint at(static_cast<int>(start) + 20, 8);
+
+  QTest::mousePress(&work.widget, Qt::LeftButton, {}, at);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return work.widget.ThumbInWidget().contains(at); }));
+  const int reached = work.bar.Value;
+  QTest::qWait(200);
+
+  EXPECT_EQ(work.bar.Value, reached);
+  EXPECT_LT(reached, 100);
+  QTest::mouseRelease(&work.widget, Qt::LeftButton, {}, at);
 }
 
 TEST(Bars, AStepAtTheEndOfTheRangeIsNoChange) {

@@ -88,13 +88,52 @@ TEST(Lists, TheRowChosenByAKeyIsScrolledIntoView) {
 TEST(Lists, TheWheelScrollsAndChoosesNothing) {
   ListsAtWork work;
   Heard clicks(work.main.Pro_Lst, EventKind::Click);
-  const QPointF at = work.Rows().RowMiddle(1);
-  QWheelEvent down(at, work.Rows().mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton, {},
-                   Qt::NoScrollPhase, false);
+  const QPoint at = work.Rows().RowMiddle(1);
 
-  QApplication::sendEvent(&work.Rows(), &down);
-
+  work.TurnWheel(work.Rows(), at, -120);
   EXPECT_EQ(work.Rows().FirstRow(), 1);
+  for (int part = 0; part < 4; ++part) work.TurnWheel(work.Rows(), at, -30);  // a touchpad
+
+  EXPECT_EQ(work.Rows().FirstRow(), 2);
+  EXPECT_EQ(clicks.Count, 0);
+}
+
+TEST(Lists, KeysGoByRowsByPagesAndToTheEnds) {
+  ListsAtWork work;
+  const Watched<int, Aspect::Value>& chosen = work.main.Pro_Lst.ListIndex;
+  work.Rows().setFocus();
+
+  QTest::keyClick(&work.Rows(), Qt::Key_Home);
+  EXPECT_EQ(chosen, 0);
+  QTest::keyClick(&work.Rows(), Qt::Key_PageDown);
+  EXPECT_EQ(chosen, 5);  // five whole rows are shown
+  QTest::keyClick(&work.Rows(), Qt::Key_PageDown);
+  EXPECT_EQ(chosen, 6);  // the last of seven
+  QTest::keyClick(&work.Rows(), Qt::Key_PageUp);
+  EXPECT_EQ(chosen, 1);
+  QTest::keyClick(&work.Rows(), Qt::Key_Up);
+  EXPECT_EQ(chosen, 0);
+}
+
+// Seven rows, of which five are shown: two rows of way for the thumb at the right edge.
+TEST(Lists, ThePulledThumbScrollsAndChoosesNothing) {
+  ListsAtWork work;
+  Heard clicks(work.main.Pro_Lst, EventKind::Click);
+  RowList& rows = work.Rows();
+  const int right = static_cast<int>(rows.FaceInWidget().right()) - 5;
+  const int top = rows.RowMiddle(0).y();
+
+  QTest::mousePress(&rows, Qt::LeftButton, {}, {right, top});
+  EXPECT_EQ(rows.FirstRow(), 0);
+  QTest::mouseMove(&rows, {right, top + 200});
+  EXPECT_EQ(rows.FirstRow(), 2);
+  QTest::mouseMove(&rows, {right, top - 200});
+  EXPECT_EQ(rows.FirstRow(), 0);
+  QTest::mouseMove(&rows, {right, top + 200});
+  QTest::mouseRelease(&rows, Qt::LeftButton, {}, {right, top + 200});
+  QTest::mouseMove(&rows, {right, top});  // it is not held any more
+
+  EXPECT_EQ(rows.FirstRow(), 2);
   EXPECT_EQ(clicks.Count, 0);
 }
 

@@ -4,12 +4,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtEndian>
 
-#include "desktop/row_list.h"
+#include "desktop/file_list_widget.h"
 #include "window_fixture.h"
 
 namespace orvane {
@@ -85,6 +86,39 @@ TEST_F(Chooser, ListsTheFoldersOnTheWayDownAndThoseInside) {
   EXPECT_EQ(folders->Rows()[folders->ChosenRow()], way.last());
   EXPECT_EQ(folders->ChosenRow(), way.size() - 1);
   EXPECT_EQ(folders->Rows().last(), "Music");
+}
+
+TEST_F(Chooser, KeysGoFromDriveToDrive) {
+  Open();
+  QWidget& drive = work.WidgetOf(main.Drive1);
+  const QStringList drives = DriveWidget::Drives();
+  drive.setFocus();
+
+  QTest::keyClick(&drive, Qt::Key_Down);  // from a folder that is no drive to the first
+  EXPECT_EQ(main.Drive1.Path.Get(), drives.first().toStdString());
+  for (qsizetype i = 0; i < drives.size(); ++i) QTest::keyClick(&drive, Qt::Key_Down);
+  EXPECT_EQ(main.Drive1.Path.Get(), drives.last().toStdString());
+  EXPECT_EQ(main.Dir1.Path.Get(), drives.last().toStdString());
+  for (qsizetype i = 0; i < drives.size(); ++i) QTest::keyClick(&drive, Qt::Key_Up);
+  EXPECT_EQ(main.Drive1.Path.Get(), drives.first().toStdString());
+}
+
+TEST_F(Chooser, ADriveIsChosenFromItsMenu) {
+  Open();
+  QWidget& drive = work.WidgetOf(main.Drive1);
+  QStringList offered;
+  QTimer::singleShot(0, &drive, [&] {  // once the menu is open
+    auto* menu = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (const QAction* entry : menu->actions()) offered.append(entry->text());
+    menu->setActiveAction(menu->actions().at(1));
+    QTest::keyClick(menu, Qt::Key_Return);
+  });
+
+  QTest::mouseClick(&drive, Qt::LeftButton);
+
+  EXPECT_EQ(offered, DriveWidget::Drives());
+  EXPECT_EQ(main.Drive1.Path.Get(), "/");
 }
 
 TEST_F(Chooser, ADoubleClickOpensAFolderAndItsFilesAreListed) {

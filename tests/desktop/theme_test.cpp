@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPalette>
 
+#include "desktop/palette.h"
 #include "desktop/type.h"
 #include "window_fixture.h"
 
@@ -42,6 +43,22 @@ TEST(Theme, TheTypeIsTheEmbeddedOne) {
 
   EXPECT_EQ(found.family(), "Inter");
   EXPECT_EQ(found.weight(), 600);
+}
+
+// Four pixels, four in from the left, in the colour that the box stands for.
+TEST(Theme, EachBoxOfTheRgbFrameBearsItsColour) {
+  WindowAtWork work;
+  Click(work.desk, work.main.COL_RGB, Reach::Forced);
+  ASSERT_TRUE(work.main.V_RGB_H.Visible);
+  const QColor marks[] = {QColor::fromRgba(palette::kRedMark),
+                          QColor::fromRgba(palette::kGreenMark),
+                          QColor::fromRgba(palette::kBlueMark)};
+
+  for (std::size_t i = 0; i < 3; ++i) {
+    QWidget& box = work.WidgetOf(work.main.RGB_V[i]);
+    const QImage shown = box.grab().toImage();
+    EXPECT_EQ(QColor(shown.pixel(6, box.height() / 2)), marks[i]) << i;
+  }
 }
 
 }  // namespace

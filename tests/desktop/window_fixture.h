@@ -74,6 +74,12 @@ struct WindowAtWork {
     QCursor::setPos(widget.mapToGlobal(at));  // for who asks the screen where it is
     QTest::mouseMove(window.windowHandle(), widget.mapTo(&window, at));
   }
+  // Turns the wheel over a widget; angle: eighths of a degree, 120 for a notch, from the user away.
+  static void TurnWheel(QWidget& widget, QPoint at, int angle) {
+    QWheelEvent turn(at, widget.mapToGlobal(at), {}, QPoint(0, angle), Qt::NoButton, {},
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &turn);
+  }
   QImage Shot() { return window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
 };
 
