@@ -59,6 +59,7 @@ void ReadRecords(Molecule& molecule) {
 }  // namespace
 
 void LoadMolecule(Orvane_Desk& desk) {
+  ForgetWalk(desk);  // a load that fails has put other atoms in its place, too
   OpenBox(desk.molecule);
   ReadRecords(desk.molecule);
   desk.main.Drive1.Visible = false;  // the file panel is never open during a load
@@ -67,7 +68,6 @@ void LoadMolecule(Orvane_Desk& desk) {
   FitBox(desk.molecule);
   RedrawView(desk);
   desk.molecule.BondAtomB = 2;
-  ForgetWalk(desk);
 }
 
 void FindBonds(Orvane_Desk& desk) {
@@ -90,18 +90,18 @@ void FindBonds(Orvane_Desk& desk) {
 }
 
 void AppendBond(Molecule& molecule) {
-  ++molecule.BondCount;
-  const int b = molecule.BondCount;
-  molecule.BondSerial[b] = b;
+  const int b = molecule.BondCount + 1;
+  molecule.BondSerial[b] = b;  // fails where there is no slot left; the count then stays in bounds
   molecule.BondA[b] = molecule.AtomSerial[molecule.BondAtomA];
   molecule.BondB[b] = molecule.AtomSerial[molecule.BondAtomB];
+  molecule.BondCount = b;
 }
 
 void AppendHBond(Molecule& molecule) {
-  ++molecule.HBondCount;
-  const int h = molecule.HBondCount;
+  const int h = molecule.HBondCount + 1;
   molecule.HBondA[h] = molecule.AtomSerial[molecule.BondAtomA];
   molecule.HBondB[h] = molecule.AtomSerial[molecule.BondAtomB];
+  molecule.HBondCount = h;
 }
 
 void FitBox(Molecule& molecule) {

@@ -5,6 +5,7 @@
 
 #include "core/records.h"
 #include "desk_fixture.h"
+#include "draw/redraw_chain.h"
 #include "measure/hydrogen_bonds.h"
 
 namespace orvane {
@@ -317,6 +318,21 @@ TEST(FindBonds, Bond30001HasNoSlot) {
   AppendBond(molecule);
   EXPECT_EQ(molecule.BondA[kLastSlot], 2);
   EXPECT_THROW(AppendBond(molecule), Failure);
+  EXPECT_EQ(molecule.BondCount, kLastSlot);
+}
+
+// 246 atoms within a bond's length of each other, on spots of their own, have 246 * 245 / 2 = 30135
+// pairs. The desk goes on with the bonds that there was room for.
+TEST(FindBonds, AHeapOfAtomsEndsAtTheLastSlotAndCanBeDrawn) {
+  DeskAtWork work;
+  std::string text;
+  for (int i = 0; i < 246; ++i) text += Record("C", i % 7 * 0.1, i / 7 % 6 * 0.1, i / 42 * 0.1);
+  work.desk.molecule.MolText = text;
+
+  EXPECT_THROW(LoadMolecule(work.desk), Failure);
+
+  EXPECT_EQ(work.desk.molecule.BondCount, kLastSlot);
+  EXPECT_NO_THROW(RedrawView(work.desk));
 }
 
 TEST(FitBox, TheCentreIsThatOfTheBoxAndNotTheMean) {

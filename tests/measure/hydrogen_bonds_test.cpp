@@ -111,6 +111,7 @@ TEST(HydrogenBonds, Number30001HasNoSlot) {
   Load(work.desk, Record("N", 0, 0, 0) + Record("O", 2.9, 0, 0));
   work.desk.molecule.HBondCount = kLastSlot;
   EXPECT_THROW(AppendHBond(work.desk.molecule), Failure);
+  EXPECT_EQ(work.desk.molecule.HBondCount, kLastSlot);
 }
 
 TEST(HydrogenBonds, AQualifyingPairClearsTheReadout) {
