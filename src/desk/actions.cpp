@@ -18,12 +18,14 @@ std::string WithoutMnemonic(std::string_view caption) {
 
 // What the user knows the control as: "Distance", "Enlarge".
 std::string CommandName(const Control& control) {
+  // A swatch has the name of its colour; the command is that of all of them.
+  if (control.Row.Parent == "P_Clr_Holder") return CommandName(*control.Parent);
   if (!control.Row.Spoken.empty()) return std::string(control.Row.Spoken);
   const std::string caption = WithoutMnemonic(control.Caption.Get());
   const auto first = caption.find_first_not_of(' ');
   if (first != std::string::npos) return caption.substr(first);
   if (&control == &control.Owner) return control.Name;
-  // One of many without words, as the swatches are: they go by what holds them.
+  // One without words goes by what holds it.
   return CommandName(control.Parent != nullptr ? *control.Parent : control.Owner);
 }
 

@@ -108,9 +108,11 @@ TEST(Actions, TheBoxNamesAControlAsTheUserKnowsIt) {
   DeskAtWork work;
   MainWindow& main = work.desk.main;
   main.OpTs.Enabled = true;
+  main.P_Clr_Holder.Visible = true;
   for (const Case& row : {Case{&main.MlClr, "failure Mol_Colour could not"},  // no mnemonic
                           Case{&main.P_Auto_Rotate, "failure Auto Rotate could not"},  // no blank
-                          Case{&main.ZoomBar, "failure Enlarge could not"}}) {         // spoken
+                          Case{&main.ZoomBar, "failure Enlarge could not"},            // spoken
+                          Case{&main.P_Clr[8], "failure Colours could not"}}) {  // one of many
     row.Source->Bind(EventKind::DoubleClick, [](const Event&) { FailOverflow(); });
     work.platform.Effects.clear();
     DoubleClick(work.desk, *row.Source);
