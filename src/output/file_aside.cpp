@@ -39,6 +39,18 @@ std::string PathOf(const std::string& folder, const std::string& name) {
   return folder + "/" + name;
 }
 
+// A file of the system's; closed at the end, also when there is no memory for what it holds.
+struct OpenFile {
+  const int Number;  // below 0: it could not be opened
+
+  explicit OpenFile(int number) : Number(number) {}
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+  ~OpenFile() {
+    if (Number >= 0) close(Number);
+  }
+};
+
 // Open until its end, and gone then unless it was renamed.
 class FileAside {
  public:
@@ -94,19 +106,18 @@ void WriteAside(const std::string& folder, const std::string& name, const FileBy
 
 std::optional<FileBytes> ReadWhole(const std::string& folder, const std::string& name) {
   const std::string path = PathOf(folder, name);
-  const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  if (file < 0 && errno == ENOENT) return std::nullopt;
+  const OpenFile file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  if (file.Number < 0 && errno == ENOENT) return std::nullopt;
   FileBytes bytes;
-  int error = file < 0 ? errno : 0;
+  int error = file.Number < 0 ? errno : 0;
   for (bool more = error == 0; more;) {
     unsigned char block[65536];
-    const ssize_t count = read(file, block, sizeof block);
+    const ssize_t count = read(file.Number, block, sizeof block);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) error = errno;
     if (count > 0) bytes.insert(bytes.end(), block, block + count);
     more = count > 0;
   }
-  if (file >= 0) close(file);
   if (error != 0) Fail("could not be read", path, error);
   return bytes;
 }

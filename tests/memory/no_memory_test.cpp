@@ -2,12 +2,14 @@
 #include "runtime/no_memory.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <optional>
 
 #include "desk/actions.h"
 #include "draw/raster.h"
 #include "memory/memory_that_runs_out.h"
+#include "output/file_aside.h"
 #include "output/gif_file.h"
 #include "random/failing_desk.h"
 #include "runtime/failure.h"
@@ -113,6 +115,28 @@ TEST(NoMemoryForAPicture, MakesNoHalfFile) {
   }
   EXPECT_GT(refusals, 5);
   EXPECT_EQ(*WithOneMoreFrame(film, picture), longer);
+}
+
+std::ptrdiff_t OpenFiles() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+}
+
+TEST(NoMemoryForAFile, LeavesItClosed) {
+  const std::string folder = ::testing::TempDir();
+  WriteAside(folder, "no_memory.gif", FileBytes(200000, 'x'));
+  const auto open_before = OpenFiles();
+  long refusals = 0;
+  for (long at = 1;; ++at) {
+    const MemoryRunsOut none(at);
+    try {
+      (void)ReadWhole(folder, "no_memory.gif");
+    } catch (const std::bad_alloc&) {
+    }
+    if (!MemoryRunsOut::HasRefused()) break;
+    ++refusals;
+  }
+  EXPECT_GT(refusals, 2);
+  EXPECT_EQ(OpenFiles(), open_before);
 }
 
 }  // namespace
