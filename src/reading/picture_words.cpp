@@ -51,20 +51,9 @@ std::string Counted(int number, std::string_view noun) {
   return std::to_string(number) + " " + std::string(noun) + (number == 1 ? "" : "s");
 }
 
-// The readout is two lines, padded to stand in its panel.
-std::string Readout(const Orvane_Desk& desk) {
-  std::string text;
-  for (const char letter : desk.main.P_Dst_Show.Caption.Get()) {
-    const bool blank = letter == ' ' || letter == '\n';
-    if (blank && (text.empty() || text.back() == ' ')) continue;
-    text += blank ? ' ' : letter;
-  }
-  return std::string(Trimmed(text));
-}
-
 }  // namespace
 
-std::string ShownWords(const Orvane_Desk& desk) {
+std::string PictureWords(const Orvane_Desk& desk) {
   if (desk.main.Picture1.Image()->Strokes.empty()) return "Empty picture";
   const std::string name = StructureName(desk);
   std::string words = name.empty() ? "A structure" : name;
@@ -74,16 +63,6 @@ std::string ShownWords(const Orvane_Desk& desk) {
   for (const Trait& row : kExtras) {
     if (row.Holds(desk)) words += ", " + std::string(row.Words);
   }
-  return words;
-}
-
-std::string PictureWords(const Orvane_Desk& desk) {
-  std::string words = ShownWords(desk);
-  if (desk.main.Picture1.Image()->Strokes.empty()) return words;
-  const int picked = desk.measure.PickState;
-  if (picked > 0) words += ", " + Counted(picked, "atom") + " picked";
-  const std::string readout = Readout(desk);
-  if (!readout.empty()) words += ", " + readout;
   return words;
 }
 

@@ -11,7 +11,4 @@ namespace orvane {
 // is switched on. "Empty picture" while nothing is drawn.
 std::string PictureWords(const Orvane_Desk& desk);
 
-// The same without what was picked and measured.
-std::string ShownWords(const Orvane_Desk& desk);
-
 }  // namespace orvane

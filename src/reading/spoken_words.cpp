@@ -8,7 +8,7 @@ namespace orvane {
 
 std::string NameNow(const Orvane_Desk& desk, const Control& control) {
   const bool shows = &control == &desk.main.Picture1 || &control == &desk.main.P_Sterio;
-  return shows ? ShownWords(desk) : SpokenName(control);
+  return shows ? PictureWords(desk) : SpokenName(control);
 }
 
 std::string DescriptionNow(const Orvane_Desk& desk, const Control& control) {

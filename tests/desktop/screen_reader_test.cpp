@@ -322,7 +322,7 @@ TEST(ScreenReader, EachStepOfTheWalkIsAnnounced) {
     };
   };
   SelectRow(work.desk, work.main.AA_Lst, 2);
-  ASSERT_TRUE(QTest::qWaitFor(announced(ShownWords(work.desk))));
+  ASSERT_TRUE(QTest::qWaitFor(announced(PictureWords(work.desk))));
   Told::Words().clear();
 
   Do(picture, "Go to the first atom");
@@ -339,7 +339,7 @@ TEST(ScreenReader, WhatThePictureShowsIsAnnouncedOnceItIsAnother) {
   Told told;
   SelectRow(work.desk, work.main.AA_Lst, 2);
 
-  const QString shown = QString::fromStdString(ShownWords(work.desk));
+  const QString shown = QString::fromStdString(PictureWords(work.desk));
   const auto heard = [&] { return Told::Count(QAccessible::Alert, shown) > 0; };
   EXPECT_TRUE(QTest::qWaitFor(heard));
   EXPECT_EQ(Told::Count(QAccessible::Alert, shown), 1);

@@ -88,22 +88,5 @@ TEST_F(PictureWordsTest, TellThatItSpins) {
   EXPECT_EQ(Words(), "Alanine, 13 atoms, wire frame, spinning");
 }
 
-// N and CA of the frame: from (11.140, 8.020, 1.544) to (10.466, 6.872, 2.145), so the root of
-// 0.454 + 1.318 + 0.361, 1.46 Angstrom.
-TEST_F(PictureWordsTest, TellPickedAtomsAndTheMeasureTaken) {
-  ChooseAlanine();
-  for (const int atom : {1, 2}) {
-    Press(desk, main.Picture1, 1, static_cast<float>(desk.molecule.ScrX[atom]),
-          static_cast<float>(desk.molecule.ScrY[atom]));
-    Release(desk, main.Picture1, 1, 0, 0);
-  }
-  EXPECT_EQ(Words(), "Alanine, 13 atoms, wire frame, 2 atoms picked");
-  Click(desk, main.Bt3_Dts);
-  const std::string readout = Words().substr(std::string("Alanine, 13 atoms, wire frame, ").size());
-  EXPECT_NE(readout.find("N - CA"), std::string::npos) << readout;
-  EXPECT_NE(readout.find("01.46 Angs"), std::string::npos) << readout;
-  EXPECT_EQ(readout.find('\n'), std::string::npos);
-}
-
 }  // namespace
 }  // namespace orvane
