@@ -3,6 +3,7 @@
 #include "draw/redraw_chain.h"
 #include "measure/angle.h"
 #include "measure/distance.h"
+#include "measure/picks.h"
 #include "measure/torsion.h"
 #include "shell/panels.h"
 
@@ -30,7 +31,7 @@ void MeasureBy(Orvane_Desk& desk, void (*routine)(Orvane_Desk&)) {
     const WhileMeasuring speaking(desk.measure);
     routine(desk);
   }
-  desk.measure.PickState = 0;
+  BeginPicks(desk);
 }
 
 }  // namespace

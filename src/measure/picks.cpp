@@ -46,6 +46,11 @@ void PickAtomsAt(Orvane_Desk& desk, float x, float y) {
   }
 }
 
+void BeginPicks(Orvane_Desk& desk) {
+  desk.measure.PickState = 0;
+  desk.walk.Picked = 0;  // what was told of the last pick is over
+}
+
 void TakePick(Orvane_Desk& desk, int atom) {
   Molecule& molecule = desk.molecule;
   Measure& measure = desk.measure;

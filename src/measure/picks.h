@@ -14,6 +14,9 @@ bool IsTakenAt(const Molecule& molecule, int atom, float x, float y);
 // up a step of the cycle each. The tags stay until the next repaint.
 void PickAtomsAt(Orvane_Desk& desk, float x, float y);
 
+// The next atom taken is the first: after a turn and a measurement. The places taken stay.
+void BeginPicks(Orvane_Desk& desk);
+
 // One step of the cycle 0, 1, 2, 3, 0: the atom's place as read becomes the next of the four
 // points.
 void TakePick(Orvane_Desk& desk, int atom);

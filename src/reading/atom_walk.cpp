@@ -43,7 +43,7 @@ struct PlaceToPress {
   }
 };
 
-// Among the whole pixels round the atom: the one that takes the fewest atoms besides it, and of
+// In whole pixels round the atom: the one that takes the fewest atoms besides it, and of
 // those the nearest. None when all of them lie outside the picture.
 std::optional<PlaceToPress> BestPlace(const Orvane_Desk& desk, int atom) {
   const Molecule& molecule = desk.molecule;
@@ -68,17 +68,11 @@ std::optional<PlaceToPress> BestPlace(const Orvane_Desk& desk, int atom) {
   return best;
 }
 
-int LastPick(const Orvane_Desk& desk) {
-  switch (desk.measure.PickState) {
-    case 1:
-      return desk.molecule.BondAtomA;
-    case 2:
-      return desk.molecule.BondAtomB;
-    case 3:
-      return desk.measure.PickAtomC;
-    default:
-      return desk.measure.PickAtomD;
-  }
+// Which atom was taken as the first, ... fourth of the cycle.
+int PickOf(const Orvane_Desk& desk, int order) {
+  const int picks[] = {desk.molecule.BondAtomA, desk.molecule.BondAtomB, desk.measure.PickAtomC,
+                       desk.measure.PickAtomD};
+  return picks[order - 1];
 }
 
 bool IsOnPicture(const Orvane_Desk& desk, int atom) {
@@ -87,9 +81,20 @@ bool IsOnPicture(const Orvane_Desk& desk, int atom) {
          y < desk.main.Picture1.ScaleHeight();
 }
 
-// A turn begins the cycle of picks anew.
+// A pick by the pointer goes on with the cycle, and four of them come round to the same state.
 bool IsPickInForce(const Orvane_Desk& desk) {
-  return desk.walk.Picked != 0 && desk.measure.PickState == desk.walk.Order % 4;
+  const WalkedAtom& walk = desk.walk;
+  return walk.Picked != 0 && desk.measure.PickState == walk.Order % 4 &&
+         PickOf(desk, walk.Order) == walk.Picked;
+}
+
+// A press that failed on the way has not taken all that lies there, and nothing is told of it.
+void KeepPick(Orvane_Desk& desk, const PlaceToPress& place, int state_before) {
+  const int state = desk.measure.PickState;
+  if (state != (state_before + place.Taken) % 4) return;
+  desk.walk.Taken = place.Taken;
+  desk.walk.Order = state == 0 ? 4 : state;
+  desk.walk.Picked = PickOf(desk, desk.walk.Order);
 }
 
 constexpr std::string_view kOrders[] = {"", "first", "second", "third", "fourth"};
@@ -140,12 +145,11 @@ void PickWalked(Orvane_Desk& desk) {
   const auto place = BestPlace(desk, atom);
   desk.walk = {.Number = atom};
   if (place) {
+    const int state_before = desk.measure.PickState;
     Press(desk, desk.main.Picture1, kLeftButton, place->X, place->Y);
     Release(desk, desk.main.Picture1, kLeftButton, place->X, place->Y);
     Click(desk, desk.main.Picture1);
-    desk.walk.Picked = LastPick(desk);
-    desk.walk.Taken = place->Taken;
-    desk.walk.Order = desk.measure.PickState == 0 ? 4 : desk.measure.PickState;
+    KeepPick(desk, *place, state_before);
   } else {
     desk.platform.Beep();
   }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "draw/redraw_chain.h"
+#include "measure/picks.h"
 #include "stereo/compositions.h"
 
 namespace orvane {
@@ -70,7 +71,7 @@ void TurnPoint(Molecule& molecule, const View& view) {
 }
 
 void RotateAll(Orvane_Desk& desk) {
-  desk.measure.PickState = 0;
+  BeginPicks(desk);
   BuildTurn(desk.view, desk.molecule);
   TurnEveryAtom(desk.molecule, desk.view);
   RedrawView(desk);

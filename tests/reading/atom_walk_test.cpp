@@ -3,7 +3,9 @@
 #include <array>
 #include <gtest/gtest.h>
 
+#include "core/loader.h"
 #include "draw/placed_atoms.h"
+#include "measure/picks.h"
 #include "reading/atom_words.h"
 
 namespace orvane {
@@ -179,6 +181,40 @@ TEST_F(AtomWalkTest, EveryLoadForgetsIt) {
 
   EXPECT_EQ(AtomOfWalk(desk), 0);
   EXPECT_EQ(desk.walk.Picked, 0);
+}
+
+TEST_F(AtomWalkTest, ALoadThatFailsForgetsItToo) {
+  SelectRow(desk, desk.main.AA_Lst, 1);
+  WalkToNext(desk);
+  ASSERT_EQ(AtomOfWalk(desk), 1);
+
+  desk.molecule.MolText = "";  // no atom, no extent: the fit divides by nothing
+  EXPECT_THROW(LoadMolecule(desk), Failure);
+
+  EXPECT_EQ(desk.walk.Number, 0);
+}
+
+TEST_F(AtomWalkTest, FourPicksByThePointerEndWhatItSaysOfItsOwn) {
+  ThreeAtomsApart();
+  WalkToFirst(desk);
+  PickWalked(desk);
+  ASSERT_EQ(WalkWords(desk), AtomWords(desk, 1) + ", picked as the first");
+
+  for (const int atom : {2, 3, 2, 3}) TakePick(desk, atom);
+
+  ASSERT_EQ(desk.measure.PickState, 1);  // as after the walk's pick
+  EXPECT_EQ(WalkWords(desk), AtomWords(desk, 1));
+}
+
+TEST_F(AtomWalkTest, ATurnEndsTheFourthPickToo) {
+  SelectRow(desk, desk.main.AA_Lst, 1);
+  WalkToNext(desk);
+  for (int pick = 1; pick <= 4; ++pick) PickWalked(desk);
+  ASSERT_EQ(WalkWords(desk), AtomWords(desk, 1) + ", picked as the fourth");
+
+  StepBar(desk, desk.main.VScroll1, 11);
+
+  EXPECT_EQ(WalkWords(desk), AtomWords(desk, 1));
 }
 
 TEST_F(AtomWalkTest, IsToldInWords) {
