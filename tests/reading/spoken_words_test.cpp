@@ -6,7 +6,6 @@
 #include "desk_fixture.h"
 #include "reading/atom_walk.h"
 #include "reading/atom_words.h"
-#include "reading/picture_words.h"
 #include "reading/recipe.h"
 
 namespace orvane {
