@@ -80,6 +80,16 @@ INSTANTIATE_TEST_SUITE_P(
                }}),
     [](const auto& damage) { return damage.param.Name; });
 
+TEST(ARandomDesk, ReadsEveryPictureBehindEachLineOfAScript) {
+  Sitting session;
+  ASSERT_EQ(PlayRandomLine(session, "enter"), "");
+  auto picture = std::make_shared<Picture>();
+  picture->Texts.emplace_back("of no stroke");
+  session.Desk().main.L_Img.SetPicture(picture);
+  const Life life = PlayLines(session, std::vector<std::string>{"dump"});
+  EXPECT_EQ(life.Wrong, "L_Img holds texts that no stroke prints");
+}
+
 TEST(ARandomDesk, PlaysWhatNestsInsideATick) {
   Sitting session;
   for (const char* line : {"enter", "select Pro_Lst 1", "click P_Auto_Rotate",

@@ -5,14 +5,15 @@
 namespace orvane {
 namespace {
 
-void PlayAndCheck(Sitting& session, std::string_view line, LastSeen& last, Life& life) {
+void PlayAndCheck(Sitting& session, std::string_view line, LastSeen& last, int thorough_every,
+                  Life& life) {
   const std::string complaint = PlayRandomLine(session, line);
   ++life.Actions;
   if (!complaint.empty()) {
     life.Wrong = "\"" + std::string(line) + "\" is no action: " + complaint;
     return;
   }
-  life.Wrong = WhatIsWrong(session, last, life.Actions % kThoroughEvery == 0);
+  life.Wrong = WhatIsWrong(session, last, life.Actions % thorough_every == 0);
 }
 
 bool IsOver(const Sitting& session, const Life& life) {
@@ -29,7 +30,7 @@ Life PlayLife(Sitting& session, std::uint64_t seed, int actions, const LineListe
     for (const std::string& line : NextLines(dice, session)) {
       if (IsOver(session, life)) break;
       if (before) before(line);
-      PlayAndCheck(session, line, last, life);
+      PlayAndCheck(session, line, last, kThoroughEvery, life);
     }
   }
   return life;
@@ -40,7 +41,7 @@ Life PlayLines(Sitting& session, std::span<const std::string> lines) {
   LastSeen last;
   for (const std::string& line : lines) {
     if (IsOver(session, life)) break;
-    PlayAndCheck(session, line, last, life);
+    PlayAndCheck(session, line, last, 1, life);
   }
   return life;
 }

@@ -14,7 +14,7 @@
 
 namespace orvane {
 
-// How often every picture is read, too, in actions.
+// How often a life by chance has every picture read, too, in actions.
 inline constexpr int kThoroughEvery = 16;
 
 struct Life {
@@ -28,7 +28,7 @@ using LineListener = std::function<void(std::string_view line)>;
 // Plays a life by chance. A session serves one life.
 Life PlayLife(Sitting& session, std::uint64_t seed, int actions, const LineListener& before);
 
-// Plays those lines, with the same checks behind each.
+// Plays those lines, with every check behind each: a script that is shortened has few lines.
 Life PlayLines(Sitting& session, std::span<const std::string> lines);
 
 }  // namespace orvane
