@@ -1,8 +1,12 @@
 // A user without a plan: a hundred thousand actions, and behind each what holds at every desk.
 #include <algorithm>
 #include <cmath>
+#include <csignal>
+#include <cstdlib>
 #include <gtest/gtest.h>
+#include <iostream>
 
+#include "random_desk/apart.h"
 #include "random_desk/life.h"
 #include "random_desk/moves.h"
 #include "random_desk/shrink.h"
@@ -168,6 +172,30 @@ TEST(AShrunkScript, IsWhatItHasWhenTheTriesAreUsedUp) {
   EXPECT_EQ(Shrunk(
                 script, [](const auto&) { return true; }, 0),
             script);
+}
+
+TEST(AReason, IsOfTheSameKindWhateverItsNumbersAndWords) {
+  const std::string kind = KindOfReason("bond 17 joins 300 and -2");
+  EXPECT_EQ(KindOfReason("bond 3 joins 4 and 596"), kind);
+  EXPECT_NE(KindOfReason("BondCount is 597"), kind);
+  EXPECT_EQ(KindOfReason("Bt3_Label reads \"On\""), KindOfReason("Bt3_Label reads \"no 1\""));
+  EXPECT_NE(KindOfReason("Bt3_Label reads \"On\""), KindOfReason("Bt3_HBD reads \"On\""));
+}
+
+TEST(ALifeApart, SaysHowItEnded) {
+  EXPECT_EQ(RunApart([] { return 0; }).Status, 0);
+  EXPECT_EQ(HowItEnded(RunApart([] { return 5; })), "exit code 5");
+  EXPECT_EQ(HowItEnded(RunApart([]() -> int { std::abort(); })), "signal Aborted");
+  EXPECT_EQ(HowItEnded(RunApart([]() -> int {
+              raise(SIGALRM);
+              return 0;
+            })),
+            "it hangs");
+  EXPECT_EQ(HowItEnded(RunApart([] {
+              std::cerr << "==7==ERROR\nSUMMARY: a sanitizer: a leak\nABORTING\n";
+              return 1;
+            })),
+            "exit code 1, SUMMARY: a sanitizer: a leak");
 }
 
 }  // namespace

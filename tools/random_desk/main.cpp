@@ -1,11 +1,13 @@
 // orvane-random-desk: plays at random for as long as one likes, and leaves a short script of what
 // went wrong.
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <string_view>
 
+#include "random_desk/apart.h"
 #include "random_desk/life.h"
 #include "random_desk/numbers.h"
 #include "random_desk/shrink.h"
@@ -50,18 +52,24 @@ std::vector<std::string> ReadLines(const std::string& file) {
   return lines;
 }
 
-// Keeps the script of a life that went wrong, as short as it can be made.
+// Keeps the script of a life that went wrong, as short as it can be made and still show the same.
 void Report(const Trial& trial, long seed) {
-  const auto still_wrong = [](const std::vector<std::string>& lines) {
-    return TryLines(lines, false).IsWrong;
-  };
   std::cout << "seed " << seed << " went wrong after " << trial.Lines.size()
             << " actions: " << trial.Reason << "\n";
-  const std::vector<std::string> shortest = Shrunk(trial.Lines, still_wrong, kTries);
+  // Played again, its pictures are read behind each line, and one may be found wrong sooner.
+  const Trial again = TryLines(trial.Lines, false);
+  const std::string& reason = again.IsWrong ? again.Reason : trial.Reason;
+  const auto shows_the_same = [kind = KindOfReason(reason)](const std::vector<std::string>& lines) {
+    const Trial shorter = TryLines(lines, false);
+    return shorter.IsWrong && KindOfReason(shorter.Reason) == kind;
+  };
+  const std::vector<std::string> shortest = Shrunk(trial.Lines, shows_the_same, kTries);
   const std::string file = "random-desk-" + std::to_string(seed) + ".txt";
   std::ofstream stream(file, std::ios::binary);
   for (const std::string& line : shortest) stream << line << "\n";
-  std::cout << "  " << shortest.size() << " actions show it: " << file << std::endl;
+  std::cout << "  " << shortest.size() << " actions show it"
+            << (again.IsWrong ? "" : " (not when they are played again)") << ": " << file << ": "
+            << reason << std::endl;
 }
 
 int PlayAtRandom(const Options& options) {
@@ -69,7 +77,8 @@ int PlayAtRandom(const Options& options) {
   long actions = 0, lives = 0, wrong = 0;
   for (long seed = options.Seed; actions < options.Actions; ++seed, ++lives) {
     const Trial trial = TryLife(static_cast<std::uint64_t>(seed), static_cast<int>(options.Life));
-    actions += static_cast<long>(trial.Lines.size());
+    // One that ended before its first line counts, too, or a run of such would have no end.
+    actions += std::max(static_cast<long>(trial.Lines.size()), 1L);
     for (const auto& [text, count] : trial.Failures) failures[text] += count;
     if (trial.IsWrong) {
       ++wrong;

@@ -1,14 +1,13 @@
 #include "random_desk/trial.h"
 
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
 #include <functional>
+#include <iostream>
 #include <sstream>
-#include <sys/wait.h>
 #include <unistd.h>
 
+#include "random_desk/apart.h"
 #include "random_desk/life.h"
 
 namespace orvane {
@@ -25,29 +24,16 @@ void Write(int file, std::string text) {
   if (write(file, text.data(), text.size()) != static_cast<ssize_t>(text.size())) _exit(4);
 }
 
-[[noreturn]] void Live(int file, const std::function<Life(Sitting&, int)>& play) {
+int Live(int file, const std::function<Life(Sitting&, int)>& play) {
   alarm(kLongestLife);
-  int code = 0;
-  {
-    Sitting session;
-    const Life life = play(session, file);
-    for (const auto& [text, count] : session.failures.Counts) {
-      Write(file, kFailureMark + std::to_string(count) + " " + text);
-    }
-    if (!life.Wrong.empty()) {
-      Write(file, kReasonMark + life.Wrong);
-      code = kWrongExit;
-    }
+  Sitting session;
+  const Life life = play(session, file);
+  for (const auto& [text, count] : session.failures.Counts) {
+    Write(file, kFailureMark + std::to_string(count) + " " + text);
   }
-  std::exit(code);  // and not _exit: leaks are looked for at the end
-}
-
-std::string HowItEnded(int status) {
-  if (WIFSIGNALED(status)) {
-    const int number = WTERMSIG(status);
-    return number == SIGALRM ? "it hangs" : "signal " + std::to_string(number);
-  }
-  return "exit code " + std::to_string(WEXITSTATUS(status));
+  if (life.Wrong.empty()) return 0;
+  Write(file, kReasonMark + life.Wrong);
+  return kWrongExit;
 }
 
 void ReadBack(const std::string& text, Trial& trial) {
@@ -64,37 +50,20 @@ void ReadBack(const std::string& text, Trial& trial) {
   }
 }
 
-std::string TextOf(int file) {
-  std::string text;
-  char part[65536];
-  lseek(file, 0, SEEK_SET);
-  for (ssize_t length = 0; (length = read(file, part, sizeof part)) > 0;) {
-    text.append(part, static_cast<std::size_t>(length));
-  }
-  return text;
-}
-
 Trial Try(const std::function<Life(Sitting&, int)>& play, bool speaks) {
   Trial trial;
   std::FILE* const kept = std::tmpfile();  // both processes write and read the same open file
   if (kept == nullptr) {
-    trial.IsWrong = true;
-    trial.Reason = "no room for the lines";
-    return trial;
+    std::cerr << "there is no room for the lines of a life" << std::endl;
+    std::exit(2);
   }
   const int file = fileno(kept);
-  std::fflush(nullptr);
-  const pid_t child = fork();
-  if (child == 0) {
-    if (!speaks) dup2(open("/dev/null", O_WRONLY), STDERR_FILENO);
-    Live(file, play);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
+  const Ending ending = RunApart([&] { return Live(file, play); });
+  if (speaks) std::cerr << ending.Said << std::flush;
   ReadBack(TextOf(file), trial);
   std::fclose(kept);
-  trial.IsWrong = status != 0;
-  if (trial.IsWrong && trial.Reason.empty()) trial.Reason = HowItEnded(status);
+  trial.IsWrong = ending.Status != 0;
+  if (trial.IsWrong && trial.Reason.empty()) trial.Reason = HowItEnded(ending);
   return trial;
 }
 

@@ -5,12 +5,12 @@
 #include <fstream>
 #include <iostream>
 #include <string_view>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QApplication>
 
 #include "desktop/application.h"
+#include "random_desk/apart.h"
 #include "random_desk/numbers.h"
 #include "random_windows/sitting.h"
 
@@ -89,15 +89,9 @@ Trace ReadTrace(const std::string& file) {
   return trace;
 }
 
-std::string HowItEnded(int status) {
-  if (WIFEXITED(status)) return "exit code " + std::to_string(WEXITSTATUS(status));
-  const int number = WTERMSIG(status);
-  return number == SIGALRM ? "it hangs" : "signal " + std::to_string(number);
-}
-
-void Report(const Trace& trace, long seed, int status, const std::string& file) {
+void Report(const Trace& trace, long seed, const Ending& ending, const std::string& file) {
   std::cout << "seed " << seed << " went wrong at event " << trace.Events << ": "
-            << (trace.Wrong.empty() ? HowItEnded(status) : trace.Wrong) << "\n";
+            << (trace.Wrong.empty() ? HowItEnded(ending) : trace.Wrong) << "\n";
   for (const std::string& event : trace.Last) std::cout << "    " << event << "\n";
   std::cout << "  all of it: " << file << std::endl;
 }
@@ -106,19 +100,17 @@ int Play(const Options& options) {
   long events = 0, sittings = 0, failures = 0, wrong = 0;
   for (long seed = options.Seed; events < options.Events; ++seed, ++sittings) {
     const std::string file = "random-windows-" + std::to_string(seed) + ".txt";
-    std::cout.flush();
-    const pid_t child = fork();
-    if (child == 0) std::exit(Sit(seed, static_cast<int>(options.Sitting), file));
-    int status = 0;
-    waitpid(child, &status, 0);
+    const Ending ending =
+        RunApart([&] { return Sit(seed, static_cast<int>(options.Sitting), file); });
+    std::cerr << ending.Said << std::flush;
     const Trace trace = ReadTrace(file);
     events += std::max(trace.Events, 1L);
     failures += trace.Failures;
-    if (status == 0) {
+    if (ending.Status == 0) {
       std::remove(file.c_str());
     } else {
       ++wrong;
-      Report(trace, seed, status, file);
+      Report(trace, seed, ending, file);
     }
     std::cout << events << " events, " << sittings + 1 << " sittings, " << failures
               << " failure boxes, " << wrong << " wrong" << std::endl;
