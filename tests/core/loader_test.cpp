@@ -326,7 +326,10 @@ TEST(FindBonds, Bond30001HasNoSlot) {
 TEST(FindBonds, AHeapOfAtomsEndsAtTheLastSlotAndCanBeDrawn) {
   DeskAtWork work;
   std::string text;
-  for (int i = 0; i < 246; ++i) text += Record("C", i % 7 * 0.1, i / 7 % 6 * 0.1, i / 42 * 0.1);
+  for (int i = 0; i < 246; ++i) {
+    const int layer = i / 42, row = i / 7 % 6, column = i % 7;
+    text += Record("C", column * 0.1, row * 0.1, layer * 0.1);
+  }
   work.desk.molecule.MolText = text;
 
   EXPECT_THROW(LoadMolecule(work.desk), Failure);

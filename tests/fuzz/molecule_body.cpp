@@ -45,7 +45,8 @@ std::string ReadAsMolecule(Bytes bytes) {
   }
   raster.Paint(*desk.main.Picture1.Image(), 1);
   LastSeen last;
-  last.InRange = false;  // a text may say any number
+  last.InRange = false;         // a text may say any number
+  last.LoadsWereWhole = false;  // and may be no text of records
   return WhatIsWrong(desk, {true, true}, last, true);
 }
 

@@ -27,6 +27,7 @@ TEST_P(NoMemory, LeavesADeskThatGoesOn) {
   long refusals = 0;
   for (const Command& command : EveryCommand(FailingDesk(situation).desk)) {
     FailingDesk work(situation);
+    work.last.HadMemory = false;
     for (long at = 1;; at = Next(at)) {
       SCOPED_TRACE(std::string(situation.Name) + ": " + command.Name + ", memory " +
                    std::to_string(at));

@@ -72,6 +72,48 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"ACoordinate", [](Orvane_Desk& desk) { desk.molecule.CurX[1] = 0.0 / 0.0; }},
         Damage{"TheAxis", [](Orvane_Desk& desk) { desk.view.AxisY = 0; }},
         Damage{"ASecondAxis", [](Orvane_Desk& desk) { desk.view.AxisX = 1; }},
+        Damage{"ATag", [](Orvane_Desk& desk) { desk.main.X_Tag[0].Style = {1, 4}; }},
+        Damage{"TheTagOfAnotherAxis",
+               [](Orvane_Desk& desk) {
+                 desk.view.AxisX = 1;
+                 desk.view.AxisY = 0;
+               }},
+        Damage{"ASavedAxis",
+               [](Orvane_Desk& desk) { desk.view.SavedAxisX = desk.view.SavedAxisZ = 1; }},
+        Damage{"TheCellsOfThePair", [](Orvane_Desk& desk) { desk.stereo.PairCells.Y = 1; }},
+        Damage{"TheCellsOfRedAndGreen", [](Orvane_Desk& desk) { desk.stereo.RedGreenCells.X = 1; }},
+        Damage{"TheCellsOfTheMirror",
+               [](Orvane_Desk& desk) { desk.stereo.EnantiomerCells = {1, 1, 0}; }},
+        Damage{"TheCellsOfTheSecondPair",
+               [](Orvane_Desk& desk) { desk.stereo.PairBCells = {0, 2, 0}; }},
+        Damage{"TheAtomOfTheWalk",
+               [](Orvane_Desk& desk) { desk.walk.Number = desk.molecule.AtomCount + 1; }},
+        Damage{"ThePickOfNoWalk", [](Orvane_Desk& desk) { desk.walk.Picked = 1; }},
+        Damage{"AnAtomOfThePair",
+               [](Orvane_Desk& desk) { desk.molecule.BondAtomA = desk.molecule.AtomCount + 1; }},
+        Damage{"APick", [](Orvane_Desk& desk) { desk.measure.PickAtomC = -1; }},
+        Damage{"TheSurvey", [](Orvane_Desk& desk) { desk.survey.SurveyAtom = 597; }},
+        Damage{"AMarkOfAPlane", [](Orvane_Desk& desk) { desk.drawing.PlaneCA2 = 597; }},
+        Damage{"ASerial", [](Orvane_Desk& desk) { desk.molecule.AtomSerial[3] = 4; }},
+        Damage{"ABondsSerial", [](Orvane_Desk& desk) { desk.molecule.BondSerial[3] = 4; }},
+        Damage{"AHydrogenBond",
+               [](Orvane_Desk& desk) {
+                 desk.molecule.HBondCount = 1;
+                 desk.molecule.HBondA[1] = desk.molecule.HBondB[1] = 5;
+               }},
+        Damage{"TheLabels", [](Orvane_Desk& desk) { desk.drawing.LabelsOn = 1; }},
+        Damage{"TheHydrogenBonds", [](Orvane_Desk& desk) { desk.drawing.HBondShown = 1; }},
+        Damage{"ThePair", [](Orvane_Desk& desk) { desk.main.Bt3_Sterio.Caption = "Stereo Off"; }},
+        Damage{"RedAndGreen", [](Orvane_Desk& desk) { desk.stereo.RedGreenOn = 1; }},
+        Damage{"TheMirror", [](Orvane_Desk& desk) { desk.main.Bt3_Isomers.Caption = "D / L On"; }},
+        Damage{"TheSecondPair",
+               [](Orvane_Desk& desk) { desk.main.Bt3_D_L_Str.Caption = "D/L Str"; }},
+        Damage{"TwoPairs", [](Orvane_Desk& desk) { desk.stereo.EnantiomerOn = 1; }},
+        Damage{"TheSpin", [](Orvane_Desk& desk) { desk.view.AutoRotateOn = 1; }},
+        Damage{"AKeptPicture",
+               [](Orvane_Desk& desk) {
+                 const_cast<Picture&>(*desk.main.R_Img.Shown()).Strokes[0].X1 += 1;
+               }},
         Damage{"TheHourglass",
                [](Orvane_Desk& desk) { desk.main.MousePointer = kPointerHourglass; }},
         Damage{"ABar", [](Orvane_Desk& desk) { desk.main.ZoomBar.Value = 101; }},
@@ -92,6 +134,23 @@ TEST(ARandomDesk, ReadsEveryPictureBehindEachLineOfAScript) {
   session.Desk().main.L_Img.SetPicture(picture);
   const Life life = PlayLines(session, std::vector<std::string>{"dump"});
   EXPECT_EQ(life.Wrong, "L_Img holds texts that no stroke prints");
+}
+
+// A release puts back what was saved, and that was nothing at the start alone.
+TEST(ARandomDesk, LosesItsAxisOnlyWhereNoneWasSaved) {
+  Sitting session;
+  LastSeen last;
+  const auto wrong_after = [&](const char* line) {
+    EXPECT_EQ(PlayRandomLine(session, line), "");
+    return WhatIsWrong(session, last, false);
+  };
+  EXPECT_EQ(wrong_after("enter"), "");
+  EXPECT_EQ(wrong_after("release Picture1 1 5 5"), "");
+  EXPECT_EQ(session.Desk().view.AxisY, 0);
+  EXPECT_EQ(wrong_after("click X_Tag(2)"), "");
+  EXPECT_EQ(wrong_after("press Picture1 1 5 5"), "");
+  session.Desk().view.AxisZ = 0;
+  EXPECT_EQ(wrong_after("move Picture1 0 5 5"), "no axis is live, and one is saved");
 }
 
 TEST(ARandomDesk, PlaysWhatNestsInsideATick) {

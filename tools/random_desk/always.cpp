@@ -2,15 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 #include "draw/surface.h"
 #include "output/recording.h"
+#include "random_desk/digest.h"
+#include "random_desk/looks.h"
+#include "random_desk/numbers_of_atoms.h"
 
 namespace orvane {
 namespace {
 
-constexpr int kMostAtoms = 596;
 constexpr double kFarFromTheEnd = 1e150;  // no one action takes a smaller number beyond all numbers
 
 struct Bounds {
@@ -78,59 +79,14 @@ std::string OutsideBounds(const Orvane_Desk& d) {
   return "";
 }
 
-struct Captions {
-  const Control& Toggle;
-  std::initializer_list<std::string_view> Known;
-};
-
-std::string UnknownCaption(const MainWindow& main) {
-  const Captions rows[] = {
-      {main.Bt_BlS, {"Ball-Stick", "Wire-Frame"}},
-      {main.Bt_CA_Trace, {"Ca-trace OFF", "Ca-trace ON"}},
-      {main.Bt3_Label, {"Label Off", "Label On"}},
-      {main.Bt3_HBD, {"H-bond Off", "H-bond On"}},
-      {main.Bt3_Sterio, {"Stereo Off", "Stereo On", "Sterio Off"}},
-      {main.R_G_Stereo, {"Red-Green Stereo Off", "Red-Green Stereo On"}},
-      {main.Bt3_Isomers, {"D / L Off", "D / L On", "D/L Off"}},
-      {main.Bt3_D_L_Str, {"D/L Nst", "D/L Str", "D / L Nst"}},
-  };
-  for (const Captions& row : rows) {
-    const std::string& caption = row.Toggle.Caption;
-    if (std::find(row.Known.begin(), row.Known.end(), caption) == row.Known.end()) {
-      return row.Toggle.Name + " reads \"" + caption + "\"";
-    }
-  }
-  return "";
-}
-
-// A cleared table has zeros up to the count of the structure that was.
-std::string WrongBond(const Molecule& molecule) {
-  for (int b = 1; b <= molecule.BondCount; ++b) {
-    const int higher = molecule.BondA[b];
-    const int lower = molecule.BondB[b];
-    const bool is_cleared = higher == 0 && lower == 0;
-    if (!is_cleared && (lower < 1 || higher <= lower || higher > kMostAtoms)) {
-      return "bond " + std::to_string(b) + " joins " + std::to_string(higher) + " and " +
-             std::to_string(lower);
-    }
-  }
-  return "";
-}
-
 std::uint64_t DigestOfAsRead(const Molecule& molecule) {
-  std::uint64_t digest = 14695981039346656037u;
-  const auto mix = [&digest](double value) {
-    std::uint64_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
-    digest = (digest ^ bits) * 1099511628211u;
-    digest ^= digest >> 29;
-  };
+  Digest digest;
   for (int i = 1; i <= kMostAtoms; ++i) {
-    mix(molecule.AtomX[i]);
-    mix(molecule.AtomY[i]);
-    mix(molecule.AtomZ[i]);
+    digest.MixNumber(molecule.AtomX[i]);
+    digest.MixNumber(molecule.AtomY[i]);
+    digest.MixNumber(molecule.AtomZ[i]);
   }
-  return digest;
+  return digest.Value;
 }
 
 // A zoom has no end, so far beyond the screen the numbers may run out; never before.
@@ -149,15 +105,49 @@ std::string NoNumber(const Molecule& molecule, LastSeen& last) {
   return !all_finite && was_in_range ? "a coordinate is no number" : "";
 }
 
-std::string WrongAxis(const View& view, bool may_be_lost, LastSeen& last) {
-  for (const int cell : {int{view.AxisX}, int{view.AxisY}, int{view.AxisZ}}) {
-    if (cell != 0 && cell != 1) return "a cell of the axis is " + std::to_string(cell);
+// A selector: at most one cell is 1, and none is another number.
+bool IsSelector(int x, int y, int z) {
+  const auto is_cell = [](int cell) { return cell == 0 || cell == 1; };
+  return is_cell(x) && is_cell(y) && is_cell(z) && x + y + z <= 1;
+}
+bool IsSelector(const AxisCells& cells) { return IsSelector(cells.X, cells.Y, cells.Z); }
+
+bool IsEmpty(const AxisCells& cells) { return cells.X == 0 && cells.Y == 0 && cells.Z == 0; }
+
+std::string WrongAxis(const View& view, bool may_be_set, LastSeen& last) {
+  if (!IsSelector(view.AxisX, view.AxisY, view.AxisZ)) return "the axis is no selector";
+  if (!IsSelector(view.SavedAxisX, view.SavedAxisY, view.SavedAxisZ)) {
+    return "the saved axis is no selector";
   }
-  const int live = view.AxisX + view.AxisY + view.AxisZ;
-  if (live > 1) return "more than one axis is live";
-  if (live == 0 && last.HadAxis && !may_be_lost) return "the axis was lost";
-  last.HadAxis = live == 1;
+  // What a release puts back is none where none was ever saved, and nothing else loses an axis.
+  const bool has_axis = view.AxisX + view.AxisY + view.AxisZ == 1;
+  const bool has_saved = view.SavedAxisX + view.SavedAxisY + view.SavedAxisZ == 1;
+  if (!has_axis && has_saved) return "no axis is live, and one is saved";
+  if (!has_axis && last.HadAxis && !may_be_set) return "the axis was lost";
+  last.HadAxis = has_axis;
   return "";
+}
+
+// A drag turns about an axis of its own, and a release puts back what the press before it saved,
+// however long ago that was; the tags hear of neither.
+std::string WrongTag(const Orvane_Desk& desk, bool may_be_set, LastSeen& last) {
+  const View& view = desk.view;
+  const int cells[] = {view.AxisX, view.AxisY, view.AxisZ};
+  const int pressed = PressedTag(desk.main);
+  const bool agrees = pressed >= 0 && cells[pressed] == 1;
+  if (!agrees && last.TagAgreed && !may_be_set) return "the tag of another axis is pressed";
+  last.TagAgreed = agrees;
+  return "";
+}
+
+// A mirrored pair whose first picture cannot be drawn leaves -1 in its cells.
+std::string WrongCells(const Stereo& stereo) {
+  const AxisCells& mirror = stereo.EnantiomerCells;
+  if (!IsEmpty(stereo.PairCells)) return "the cells of the pair hold an axis";
+  if (!IsEmpty(stereo.RedGreenCells)) return "the cells of red and green hold an axis";
+  if (!IsSelector(stereo.PairBCells)) return "the cells of the second pair are no selector";
+  const bool was_begun = mirror.X == -1 && mirror.Y == -1 && mirror.Z == -1;
+  return was_begun || IsSelector(mirror) ? "" : "the cells of the mirrored pair are no selector";
 }
 
 std::string OutsideItsRange(const Orvane_Desk& desk) {
@@ -227,18 +217,22 @@ std::string WhatIsWrong(const Orvane_Desk& desk, Freedom freedom, LastSeen& last
   }
 
   std::string wrong = OutsideBounds(desk);
-  if (wrong.empty()) wrong = UnknownCaption(desk.main);
-  if (wrong.empty()) wrong = WrongBond(desk.molecule);
-  if (wrong.empty()) wrong = WrongAxis(desk.view, freedom.MayHaveLostAxis, last);
+  if (wrong.empty()) wrong = UnknownCaption(desk);
+  if (wrong.empty() && last.HadMemory) wrong = OtherThanItsField(desk);
+  if (wrong.empty()) wrong = WrongNumberOfAnAtom(desk, last.LoadsWereWhole);
+  if (wrong.empty()) wrong = WrongAxis(desk.view, freedom.MayHaveSetAxis, last);
+  if (wrong.empty()) wrong = WrongTag(desk, freedom.MayHaveSetAxis, last);
+  if (wrong.empty()) wrong = WrongCells(desk.stereo);
   if (wrong.empty()) wrong = NoNumber(desk.molecule, last);
   if (wrong.empty()) wrong = OutsideItsRange(desk);
   if (wrong.empty() && thorough) wrong = UnreadablePicture(desk);
+  if (wrong.empty() && thorough) wrong = ChangedPicture(desk, last.Kept);
   return wrong;
 }
 
 std::string WhatIsWrong(Sitting& session, LastSeen& last, bool thorough) {
   const Freedom freedom{std::exchange(session.MayHaveLoaded, false),
-                        std::exchange(session.MayHaveLostAxis, false)};
+                        std::exchange(session.MayHaveSetAxis, false)};
   return WhatIsWrong(session.Desk(), freedom, last, thorough);
 }
 

@@ -93,7 +93,7 @@ std::string PlayRandomLine(Sitting& session, std::string_view line) {
   }
   const bool starts_anew = line == "restart";
   session.MayHaveLoaded |= starts_anew || Holds(line, "select ") || Holds(line, "click Bt_M_Ld");
-  session.MayHaveLostAxis |= starts_anew || Holds(line, "release Picture1");
+  session.MayHaveSetAxis |= Holds(line, "release Picture1") || Holds(line, "move Picture1");
   std::string complaint = PlayLine(session.player, line);
   if (starts_anew) {
     session.Pending.clear();

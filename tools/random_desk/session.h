@@ -44,8 +44,8 @@ struct Sitting {
   std::deque<std::string> Pending;  // what the next pending events will be
 
   // What the line played last, with all that nested in it, was allowed to change.
-  bool MayHaveLoaded = false;    // a structure was read
-  bool MayHaveLostAxis = false;  // a button let go over the picture puts a saved axis back
+  bool MayHaveLoaded = false;   // a structure was read
+  bool MayHaveSetAxis = false;  // the pointer over the picture was moved, or a button let go
 
   Orvane_Desk& Desk() { return *player.desk; }
 };

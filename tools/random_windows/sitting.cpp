@@ -57,8 +57,9 @@ struct Table : QObject {
       control->Bind(EventKind::Click, loads);
       control->Bind(EventKind::Failed, loads);
     }
-    desk.main.Picture1.Bind(EventKind::Release,
-                            [this](const Event&) { freedom.MayHaveLostAxis = true; });
+    for (const EventKind kind : {EventKind::Move, EventKind::Release}) {
+      desk.main.Picture1.Bind(kind, [this](const Event&) { freedom.MayHaveSetAxis = true; });
+    }
   }
 
   bool IsOver() const { return sitting.Events >= most || outside.Ended || !sitting.Wrong.empty(); }

@@ -1,0 +1,23 @@
+// A picture that somebody keeps stays as it was, whatever is drawn afterwards.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desk/orvane_desk.h"
+
+namespace orvane {
+
+struct KeptPicture {
+  std::string Of;  // the control that showed it
+  std::shared_ptr<const Picture> Image;
+  std::uint64_t Digest = 0;  // as it was when it was kept
+};
+
+// The first of them that has changed since; then those that show now take their place: what is on
+// the surface, and the halves of the split views.
+std::string ChangedPicture(const Orvane_Desk& desk, std::vector<KeptPicture>& kept);
+
+}  // namespace orvane
