@@ -165,6 +165,19 @@ TEST(ARandomDesk, PlaysWhatNestsInsideATick) {
   EXPECT_EQ(session.Desk().view.AutoRotateOn, 0);
 }
 
+TEST(ARandomDesk, HearsOfALineThatIsNoActionAlsoInsideATick) {
+  Sitting session;
+  for (const char* line : {"enter", "select Pro_Lst 1", "click P_Auto_Rotate",
+                           "#nest click Nowhere", "#nest click Bt3_Label"}) {
+    ASSERT_EQ(PlayRandomLine(session, line), "");
+  }
+  EXPECT_EQ(PlayRandomLine(session, "tick Timer1"),
+            "\"click Nowhere\" that nests in it: there is no control \"Nowhere\"");
+  EXPECT_EQ(session.Desk().drawing.LabelsOn, 1);
+  EXPECT_EQ(PlayRandomLine(session, "tick Timer1"), "");
+  EXPECT_NE(PlayRandomLine(session, "#enter Nowhere"), "");
+}
+
 TEST(ARandomDesk, MakesTheHourglassGoWhenASaveFails) {
   Sitting session;
   LastSeen last;

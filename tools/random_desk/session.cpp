@@ -1,6 +1,7 @@
 #include "random_desk/session.h"
 
 #include <cmath>
+#include <utility>
 
 #include "controls/kinds.h"
 #include "desk/actions.h"
@@ -13,13 +14,17 @@ namespace {
 constexpr std::string_view kNest = "#nest ";
 constexpr std::string_view kDiskFull = "the disk is full";
 
+std::string PlayOne(Sitting& session, std::string_view line);
+
 void ListenToPending(Sitting& session) {
   session.player.platform->PendingEvents = [&session] {
     // What is played may let events run in its turn, and finds what is left.
     while (!session.Pending.empty()) {
       const std::string line = session.Pending.front();
       session.Pending.pop_front();
-      PlayRandomLine(session, line);
+      const std::string complaint = PlayOne(session, line);
+      if (complaint.empty() || !session.NestedComplaint.empty()) continue;
+      session.NestedComplaint = "\"" + line + "\" that nests in it: " + complaint;
     }
   };
 }
@@ -53,10 +58,11 @@ void Look(Sitting& session, double scale) {
   }
 }
 
-void PlayRemark(Sitting& session, std::string_view remark) {
+// What no word below stands for is a comment, here too.
+std::string PlayRemark(Sitting& session, std::string_view remark) {
   if (remark.starts_with(kNest)) {
     session.Pending.emplace_back(remark.substr(kNest.size()));
-    return;
+    return "";
   }
   ScriptLine words(remark);
   const std::string_view word = words.NextWord();
@@ -64,16 +70,28 @@ void PlayRemark(Sitting& session, std::string_view remark) {
   if (word == "#saves") session.player.platform->SaveFails.clear();
   if (word == "#resize") PlayResize(session, words);
   if (word == "#look") Look(session, RealNumber(words.NextWord()).value_or(1));
-  if (word == "#enter" || word == "#focus") {
-    Control* control = session.Desk().FindControl(words.NextWord());
-    if (control == nullptr) return;
-    word == "#enter" ? PointerEnters(session.Desk(), *control)
-                     : FocusComes(session.Desk(), *control);
-  }
+  if (word != "#enter" && word != "#focus") return "";
+  Control* control = session.Desk().FindControl(words.NextWord());
+  if (control == nullptr) return "there is no such control";
+  word == "#enter" ? PointerEnters(session.Desk(), *control) : FocusComes(session.Desk(), *control);
+  return "";
 }
 
 bool Holds(std::string_view line, std::string_view words) {
   return line.find(words) != std::string_view::npos;
+}
+
+std::string PlayOne(Sitting& session, std::string_view line) {
+  if (line.starts_with('#')) return PlayRemark(session, line);
+  const bool starts_anew = line == "restart";
+  session.MayHaveLoaded |= starts_anew || Holds(line, "select ") || Holds(line, "click Bt_M_Ld");
+  session.MayHaveSetAxis |= Holds(line, "release Picture1") || Holds(line, "move Picture1");
+  std::string complaint = PlayLine(session.player, line);
+  if (starts_anew) {
+    session.Pending.clear();
+    ListenToPending(session);
+  }
+  return complaint;
 }
 
 }  // namespace
@@ -87,19 +105,9 @@ std::streamsize FailureTally::xsputn(const char* text, std::streamsize length) {
 Sitting::Sitting() { ListenToPending(*this); }
 
 std::string PlayRandomLine(Sitting& session, std::string_view line) {
-  if (line.starts_with('#')) {
-    PlayRemark(session, line);
-    return "";
-  }
-  const bool starts_anew = line == "restart";
-  session.MayHaveLoaded |= starts_anew || Holds(line, "select ") || Holds(line, "click Bt_M_Ld");
-  session.MayHaveSetAxis |= Holds(line, "release Picture1") || Holds(line, "move Picture1");
-  std::string complaint = PlayLine(session.player, line);
-  if (starts_anew) {
-    session.Pending.clear();
-    ListenToPending(session);
-  }
-  return complaint;
+  const std::string complaint = PlayOne(session, line);
+  const std::string nested = std::exchange(session.NestedComplaint, "");
+  return complaint.empty() ? nested : complaint;
 }
 
 }  // namespace orvane

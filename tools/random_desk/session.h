@@ -1,5 +1,6 @@
 // A desk that is played by chance: lines of a replay script, and a few remarks of its own for what
-// no script can ask. orvane-replay skips a remark, so it plays the same lines as far as it can.
+// no script can ask. To orvane-replay a remark is a comment, so what hangs on one is not seen
+// there.
 //
 //   #nest LINE             the next time events are let run, LINE is played inside
 //   #save-fails / #saves   saves fail / work from here on
@@ -43,6 +44,8 @@ struct Sitting {
   std::vector<std::uint32_t> canvas;
   std::deque<std::string> Pending;  // what the next pending events will be
 
+  std::string NestedComplaint;  // of the first line inside the present one that was no action
+
   // What the line played last, with all that nested in it, was allowed to change.
   bool MayHaveLoaded = false;   // a structure was read
   bool MayHaveSetAxis = false;  // the pointer over the picture was moved, or a button let go
@@ -50,7 +53,8 @@ struct Sitting {
   Orvane_Desk& Desk() { return *player.desk; }
 };
 
-// Plays one line. Empty: done; else the line is no action, for the reason that is returned.
+// Plays one line. Empty: done; else the line, or one that nested in it, is no action, for the
+// reason that is returned.
 std::string PlayRandomLine(Sitting& session, std::string_view line);
 
 }  // namespace orvane
