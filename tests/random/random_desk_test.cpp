@@ -40,92 +40,6 @@ TEST(ARandomDesk, PlaysTheSameFromTheSameSeed) {
   EXPECT_NE(lines_of(7), lines_of(8));
 }
 
-// So that a check that sees nothing does not pass for a desk without faults.
-struct Damage {
-  const char* Name;
-  void (*Do)(Orvane_Desk& desk);
-};
-
-class WhatAlwaysHolds : public ::testing::TestWithParam<Damage> {};
-
-TEST_P(WhatAlwaysHolds, IsMissedWhenItDoesNot) {
-  Sitting session;
-  LastSeen last;
-  for (const char* line : {"enter", "select Pro_Lst 1", "click Bt3_Sterio"}) {
-    ASSERT_EQ(PlayRandomLine(session, line), "");
-  }
-  ASSERT_EQ(WhatIsWrong(session, last, true), "");
-  GetParam().Do(session.Desk());
-  EXPECT_NE(WhatIsWrong(session, last, true), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    ARandomDesk, WhatAlwaysHolds,
-    ::testing::Values(
-        Damage{"ACount", [](Orvane_Desk& desk) { desk.molecule.BondCount = -1; }},
-        Damage{"AFlag", [](Orvane_Desk& desk) { desk.drawing.BallsOn = 2; }},
-        Damage{"AWidth", [](Orvane_Desk& desk) { desk.drawing.BondWidth = 7; }},
-        Damage{"TheOverdraw", [](Orvane_Desk& desk) { desk.drawing.OverdrawPass = 1; }},
-        Damage{"ACaption", [](Orvane_Desk& desk) { desk.main.Bt3_Label.Caption = "Label"; }},
-        Damage{"ABond", [](Orvane_Desk& desk) { desk.molecule.BondB[1] = desk.molecule.BondA[1]; }},
-        Damage{"TheCoordinatesAsRead", [](Orvane_Desk& desk) { desk.molecule.AtomX[1] += 1; }},
-        Damage{"ACoordinate", [](Orvane_Desk& desk) { desk.molecule.CurX[1] = 0.0 / 0.0; }},
-        Damage{"TheAxis", [](Orvane_Desk& desk) { desk.view.AxisY = 0; }},
-        Damage{"ASecondAxis", [](Orvane_Desk& desk) { desk.view.AxisX = 1; }},
-        Damage{"ATag", [](Orvane_Desk& desk) { desk.main.X_Tag[0].Style = {1, 4}; }},
-        Damage{"TheTagOfAnotherAxis",
-               [](Orvane_Desk& desk) {
-                 desk.view.AxisX = 1;
-                 desk.view.AxisY = 0;
-               }},
-        Damage{"ASavedAxis",
-               [](Orvane_Desk& desk) { desk.view.SavedAxisX = desk.view.SavedAxisZ = 1; }},
-        Damage{"TheCellsOfThePair", [](Orvane_Desk& desk) { desk.stereo.PairCells.Y = 1; }},
-        Damage{"TheCellsOfRedAndGreen", [](Orvane_Desk& desk) { desk.stereo.RedGreenCells.X = 1; }},
-        Damage{"TheCellsOfTheMirror",
-               [](Orvane_Desk& desk) { desk.stereo.EnantiomerCells = {1, 1, 0}; }},
-        Damage{"TheCellsOfTheSecondPair",
-               [](Orvane_Desk& desk) { desk.stereo.PairBCells = {0, 2, 0}; }},
-        Damage{"TheAtomOfTheWalk",
-               [](Orvane_Desk& desk) { desk.walk.Number = desk.molecule.AtomCount + 1; }},
-        Damage{"ThePickOfNoWalk", [](Orvane_Desk& desk) { desk.walk.Picked = 1; }},
-        Damage{"AnAtomOfThePair",
-               [](Orvane_Desk& desk) { desk.molecule.BondAtomA = desk.molecule.AtomCount + 1; }},
-        Damage{"APick", [](Orvane_Desk& desk) { desk.measure.PickAtomC = -1; }},
-        Damage{"TheSurvey", [](Orvane_Desk& desk) { desk.survey.SurveyAtom = 597; }},
-        Damage{"AMarkOfAPlane", [](Orvane_Desk& desk) { desk.drawing.PlaneCA2 = 597; }},
-        Damage{"ASerial", [](Orvane_Desk& desk) { desk.molecule.AtomSerial[3] = 4; }},
-        Damage{"ABondsSerial", [](Orvane_Desk& desk) { desk.molecule.BondSerial[3] = 4; }},
-        Damage{"AHydrogenBond",
-               [](Orvane_Desk& desk) {
-                 desk.molecule.HBondCount = 1;
-                 desk.molecule.HBondA[1] = desk.molecule.HBondB[1] = 5;
-               }},
-        Damage{"TheLabels", [](Orvane_Desk& desk) { desk.drawing.LabelsOn = 1; }},
-        Damage{"TheHydrogenBonds", [](Orvane_Desk& desk) { desk.drawing.HBondShown = 1; }},
-        Damage{"ThePair", [](Orvane_Desk& desk) { desk.main.Bt3_Sterio.Caption = "Stereo Off"; }},
-        Damage{"RedAndGreen", [](Orvane_Desk& desk) { desk.stereo.RedGreenOn = 1; }},
-        Damage{"TheMirror", [](Orvane_Desk& desk) { desk.main.Bt3_Isomers.Caption = "D / L On"; }},
-        Damage{"TheSecondPair",
-               [](Orvane_Desk& desk) { desk.main.Bt3_D_L_Str.Caption = "D/L Str"; }},
-        Damage{"TwoPairs", [](Orvane_Desk& desk) { desk.stereo.EnantiomerOn = 1; }},
-        Damage{"TheSpin", [](Orvane_Desk& desk) { desk.view.AutoRotateOn = 1; }},
-        Damage{"AKeptPicture",
-               [](Orvane_Desk& desk) {
-                 const_cast<Picture&>(*desk.main.R_Img.Shown()).Strokes[0].X1 += 1;
-               }},
-        Damage{"TheHourglass",
-               [](Orvane_Desk& desk) { desk.main.MousePointer = kPointerHourglass; }},
-        Damage{"ABar", [](Orvane_Desk& desk) { desk.main.ZoomBar.Value = 101; }},
-        Damage{"ARow", [](Orvane_Desk& desk) { desk.main.AA_Lst.ListIndex = 99; }},
-        Damage{"APicture",
-               [](Orvane_Desk& desk) {
-                 auto picture = std::make_shared<Picture>();
-                 picture->Strokes.push_back({.Kind = StrokeKind::Print, .Text = 3});
-                 desk.main.L_Img.SetPicture(picture);
-               }}),
-    [](const auto& damage) { return damage.param.Name; });
-
 TEST(ARandomDesk, ReadsEveryPictureBehindEachLineOfAScript) {
   Sitting session;
   ASSERT_EQ(PlayRandomLine(session, "enter"), "");
@@ -176,6 +90,77 @@ TEST(ARandomDesk, HearsOfALineThatIsNoActionAlsoInsideATick) {
   EXPECT_EQ(session.Desk().drawing.LabelsOn, 1);
   EXPECT_EQ(PlayRandomLine(session, "tick Timer1"), "");
   EXPECT_NE(PlayRandomLine(session, "#enter Nowhere"), "");
+}
+
+// What a life never does it does not try.
+TEST(ARandomDesk, MakesEveryMoveOfItsLanguage) {
+  const char* const moves[] = {
+      "#nest",
+      "#save-fails",
+      "#saves",
+      "#enter AA_Lst",
+      "#focus ZoomBar",
+      "#resize",
+      "#look",
+      "#close Author_",
+      "#close Orvane_Des",
+      "#close Ramachandran",
+      "#close Cont",
+      "#folder Dir",
+      "#choose File1",
+      "doubleclick File1",
+      "#walk next",
+      "#walk pick",
+      "#map next",
+      "#map previous",
+      "click Picture1",
+      "force click PMSC9",
+      "force click StMsc",
+      "force click OpMfL",
+      "restart",
+      "click ExitEntry",
+      "sound-fails",
+  };
+  std::map<std::string, int> made;
+  for (std::uint64_t seed = 1; seed <= 40; ++seed) {
+    Sitting session;
+    PlayLife(session, seed, 1500, [&](std::string_view line) {
+      for (const char* move : moves) made[move] += line.starts_with(move) ? 1 : 0;
+    });
+  }
+  for (const char* move : moves) EXPECT_GT(made[move], 0) << move;
+}
+
+TEST(ARandomDesk, WalksAndPicksByKeys) {
+  Sitting session;
+  LastSeen last;
+  for (const char* line : {"enter", "select Pro_Lst 1", "#walk last", "#walk pick"}) {
+    ASSERT_EQ(PlayRandomLine(session, line), "");
+    ASSERT_EQ(WhatIsWrong(session, last, true), "") << line;
+  }
+  EXPECT_EQ(session.Desk().walk.Number, session.Desk().molecule.AtomCount);
+  EXPECT_NE(session.Desk().walk.Picked, 0);
+}
+
+TEST(ARandomDesk, ChoosesAndPlaysAFile) {
+  Sitting session;
+  for (const char* line : {"enter", "force click OpMfL", "#folder Drive1 /a b",
+                           "#choose File1 c d.wav", "doubleclick File1"}) {
+    ASSERT_EQ(PlayRandomLine(session, line), "");
+  }
+  EXPECT_EQ(session.Desk().shell.SoundPath, "/a b/c d.wav");
+  EXPECT_FALSE(session.Desk().main.P_Dir_Holder.Visible);
+}
+
+TEST(ARandomDesk, ClosesAWindowThatShows) {
+  Sitting session;
+  for (const char* line : {"enter", "#close Author_frm"}) {
+    ASSERT_EQ(PlayRandomLine(session, line), "");
+  }
+  EXPECT_TRUE(session.Desk().main.Visible);
+  EXPECT_FALSE(session.player.platform->Ended);
+  EXPECT_EQ(PlayRandomLine(session, "#close Orvane_Desk"), "");
+  EXPECT_TRUE(session.player.platform->Ended);
 }
 
 TEST(ARandomDesk, MakesTheHourglassGoWhenASaveFails) {

@@ -28,6 +28,10 @@ constexpr std::string_view kLists[] = {"AA_Lst", "Pro_Lst", "Nuc_Lst", "DNA_Lst"
 constexpr std::string_view kBars[] = {"VScroll1", "ZoomBar", "X_TRANS", "Y_TRANS", "Rt_speed"};
 constexpr std::string_view kTimers[] = {"Timer1", "Orvane_Front.Timer1"};
 constexpr std::string_view kSaves[] = {"S_bmp", "S_JPG", "S_Gif", "S_AnGif", "P_Sterio"};
+constexpr std::string_view kChoosers[] = {"Drive1", "Dir1", "File1"};
+constexpr std::string_view kFolders[] = {"/", "", "C:\\", "a/b/c", "..", "\xC3\xA4/", "1 2"};
+constexpr std::string_view kWalkSteps[] = {"next", "next", "previous", "first",
+                                           "last", "pick", "pick",     "pick"};
 constexpr int kButtons[] = {1, 2, 4};
 constexpr int kFarValues[] = {-2147483647, -32769, -361, -101, 101, 361, 32768, 2147483647};
 
@@ -99,6 +103,7 @@ std::string PointerLine(Dice& dice, const Control& control, const std::string& a
 // The event of its kind that a control is there for.
 std::string UseOf(Dice& dice, Control& control) {
   const std::string name = control.FullName();
+  if (dice.OneIn(30)) return Words({dice.OneIn(2) ? "#enter" : "#focus", name});
   switch (control.Row.Kind) {
     case Kind::Timer:
       return Words({"tick", name});
@@ -123,7 +128,6 @@ std::string UseOf(Dice& dice, Control& control) {
     default:
       if (dice.OneIn(12)) return PointerLine(dice, control, Somewhere(dice, control));
       if (dice.OneIn(40)) return Words({"doubleclick", name});
-      if (dice.OneIn(20)) return Words({dice.OneIn(2) ? "#enter" : "#focus", name});
       // Keys of sizes and swatches act on the press, and a click follows one on the screen.
       return Words({"click", name});
   }
@@ -167,6 +171,7 @@ std::string Anything(Dice& dice, Sitting& session) {
     case 0:
       return PointerLine(dice, desk.main.Picture1, OnAnAtom(dice, desk));
     case 1:
+      if (dice.OneIn(8)) return "click Picture1";
       return PointerLine(dice, desk.main.Picture1, Somewhere(dice, desk.main.Picture1));
     case 2:
       return Words({"press", desk.main.Sz_Balls[static_cast<std::size_t>(dice.Below(6))].FullName(),
@@ -196,6 +201,41 @@ void AppendTick(Dice& dice, Sitting& session, Lines& lines) {
   lines.push_back(Words({"tick", dice.OneIn(12) ? kTimers[1] : kTimers[0]}));
 }
 
+// Forced: the menu of the music shows nowhere, and what its entries do is complete.
+void AppendMusic(Dice& dice, Lines& lines) {
+  if (dice.OneIn(5)) lines.push_back("sound-fails " + std::to_string(dice.Between(0, 400)));
+  if (dice.OneIn(2)) {
+    const std::string tune = "PMSC" + std::to_string(dice.Between(1, 9));
+    lines.push_back(Words({"force click", dice.OneIn(4) ? "StMsc" : tune}));
+    return;
+  }
+  lines.emplace_back("force click OpMfL");
+  for (int i = dice.Below(4); i > 0; --i) {
+    lines.push_back(
+        dice.OneIn(2)
+            ? Words({"#folder", dice.Of(std::span(kChoosers)), dice.Of(std::span(kFolders))})
+            : Words({"#choose", dice.Of(std::span(kChoosers)), dice.Of(std::span(kNames))}));
+  }
+  if (!dice.OneIn(3)) lines.emplace_back("doubleclick File1");
+}
+
+// By keys: over the atoms, or over the names on the map where it shows.
+void AppendWalk(Dice& dice, const Orvane_Desk& desk, Lines& lines) {
+  const bool on_map = desk.plot.Visible && dice.OneIn(2);
+  for (int i = dice.Between(1, 6); i > 0; --i) {
+    lines.push_back(on_map ? Words({"#map", dice.OneIn(3) ? "previous" : "next"})
+                           : Words({"#walk", dice.Of(std::span(kWalkSteps))}));
+  }
+}
+
+// Some ends the program, and so the life: rarely.
+void AppendClose(Dice& dice, const Orvane_Desk& desk, Lines& lines) {
+  const Window& window = *dice.Of(std::span(desk.windows));
+  const bool may_end = &window == &desk.main || &window == &desk.front || &window == &desk.content;
+  if (may_end && !dice.OneIn(10)) return;
+  lines.push_back(Words({"#close", window.Name}));
+}
+
 // The same over and over: a held key, a spin that nobody stops, a recording to its end.
 void AppendBurst(Dice& dice, Sitting& session, Lines& lines) {
   const std::string line = dice.OneIn(2) ? "tick Timer1" : Anything(dice, session);
@@ -218,15 +258,25 @@ std::vector<std::string> NextLines(Dice& dice, Sitting& session) {
     case 2:
       if (dice.OneIn(20)) lines.emplace_back("click ExitEntry");
       break;
+    case 3:
+      AppendClose(dice, desk, lines);
+      break;
+    case 4:
+      AppendMusic(dice, lines);
+      break;
+    case 5:
+    case 6:
+      AppendWalk(dice, desk, lines);
+      break;
     default:
-      if (chance < 8) {
+      if (chance < 12) {
         lines.push_back(UseOf(dice, *desk.FindControl(dice.Of(std::span(kLists)))));
-      } else if (chance < 14) {
+      } else if (chance < 18) {
         AppendAnswer(dice, session, lines);
         lines.push_back(Words({"click", dice.Of(std::span(kSaves))}));
-      } else if (chance < 20) {
+      } else if (chance < 24) {
         AppendOuterWorld(dice, session, lines);
-      } else if (chance < 50) {
+      } else if (chance < 54) {
         AppendTick(dice, session, lines);
       } else {
         lines.push_back(Anything(dice, session));

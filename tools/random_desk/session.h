@@ -1,13 +1,5 @@
 // A desk that is played by chance: lines of a replay script, and a few remarks of its own for what
-// no script can ask. To orvane-replay a remark is a comment, so what hangs on one is not seen
-// there.
-//
-//   #nest LINE             the next time events are let run, LINE is played inside
-//   #save-fails / #saves   saves fail / work from here on
-//   #enter NAME            the pointer comes onto a control
-//   #focus NAME            the keyboard comes to a control
-//   #resize WINDOW STATE LEFT TOP WIDTH HEIGHT    STATE: 0 normal, 1 minimised, 2 maximised
-//   #look SCALE            everything that shows is painted at that scale
+// no script can ask (random_desk/remarks.h).
 #pragma once
 
 #include <cstdint>
