@@ -110,7 +110,7 @@ std::set<pid_t> FamilyOf(pid_t eldest) {
   for (bool grown = true; grown;) {
     grown = false;
     for (const auto& [pid, parent] : parents) {
-      if (family.count(parent) != 0 && family.insert(pid).second) grown = true;
+      if (family.contains(parent) && family.insert(pid).second) grown = true;
     }
   }
   return family;

@@ -89,7 +89,7 @@ int PlayOneRound(int count, char** words) {
   return 0;
 }
 
-void PrintMedians(char* self) {
+void PrintMedians(const char* self) {
   std::vector<std::string> order;
   std::map<std::string, std::vector<double>> times;
   for (int round = 0; round <= kRounds; ++round) {
