@@ -77,6 +77,17 @@ TEST(RasterCircles, ALargeCircleIsDrawnWithoutASprite) {
   EXPECT_EQ(WordAt(bitmap, 272, 150), 0xFF000000u);
 }
 
+TEST(RasterCircles, ALargeEmptyCircleShowsWhatIsBelow) {
+  SmallPicture picture(300, 300);
+  picture.BackColor = Rgb(0, 0, 255);
+  picture.Circle(150, 150, 120, Rgb(255, 0, 0), kWhite, 1);
+  const Bitmap bitmap = Raster().Paint(picture);
+
+  EXPECT_EQ(WordAt(bitmap, 150, 150), 0xFF0000FFu);
+  EXPECT_EQ(WordAt(bitmap, 200, 180), 0xFF0000FFu);
+  EXPECT_EQ(WordAt(bitmap, 270, 150), 0xFFFFFFFFu);
+}
+
 TEST(RasterCircles, ALargeCircleHasNoGapBetweenRimAndCore) {
   // Of a ball of 20 pixels at a scale of 4 only the size differs from a sprite's. Down its middle
   // and across it: filled up to 79.5 - 0.5, then the outline.
