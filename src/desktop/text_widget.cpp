@@ -64,9 +64,12 @@ void TextWidget::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
 }
 
+// Enter ends here. The toolkit would pass it up to the window, which acts on whoever has the
+// keyboard by then.
 void TextWidget::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   PressKey(host.skin.desk, control, enter ? kEnterKey : event->key());
+  if (enter) return event->accept();
   QLineEdit::keyPressEvent(event);
 }
 

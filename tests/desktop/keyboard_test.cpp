@@ -344,6 +344,26 @@ TEST_F(OnPicture, TheKeyboardGoesAlongIntoThePairOfViewsAndBack) {
   EXPECT_TRUE(HasKeyboard(main.Picture1));
 }
 
+// The panel closes at once and gives the keyboard back to the picture, where Enter is a pick.
+TEST_F(OnPicture, EnterInABoxOfTheRgbFrameIsNoPickOfTheAtomInTheRing) {
+  Key(Qt::Key_Home);
+  const auto walk = desk.walk;
+  ASSERT_NE(walk.Number, 0);
+  ASSERT_TRUE(ChooseEntry(main.COL_RGB));
+  ASSERT_TRUE(HasKeyboard(main.RGB_V[0]));
+  const Heard presses(main.Picture1, EventKind::Press);
+
+  Key(Qt::Key_Return);
+
+  EXPECT_FALSE(main.V_RGB_H.Visible);
+  EXPECT_TRUE(HasKeyboard(main.Picture1));
+  EXPECT_EQ(presses.Count, 0);
+  EXPECT_EQ(desk.measure.PickState, 0);
+  EXPECT_EQ(desk.walk.Number, walk.Number);
+  EXPECT_EQ(desk.walk.Picked, walk.Picked);
+  EXPECT_TRUE(platform.Effects.empty());
+}
+
 // The ring and the mark are seen on the screen; the strokes, and so every file and page, stay.
 TEST_F(OnPicture, TheWalkIsSeenWhileThePictureHasTheKeyboardAndIsNeverDrawn) {
   const QImage ringed = PictureShot();
