@@ -123,6 +123,7 @@ void DrawWindow(QPainter& painter, const QRectF& paper, int dots, Skin& skin, Wi
   const Sheet sheet = SheetOf(paper, window.Row.At);
   WindowWidget again(skin, window);
   const double ratio = again.devicePixelRatioF();
+  again.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);  // paper may be larger than the screen
   again.resize(static_cast<int>(std::lround(ImagePixels(sheet.Area.width(), dots) / ratio)),
                static_cast<int>(std::lround(ImagePixels(sheet.Area.height(), dots) / ratio)));
   // A maximised window shows its plan as large as it is. A change of size would end that state.

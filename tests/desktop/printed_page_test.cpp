@@ -27,11 +27,15 @@ struct PrintedPage : WindowAtWork, testing::Test {
     DrawPrintPage(painter, QRectF(paper.rect()), 100, skin, desk.page);
     return paper;
   }
-  static QImage RasterOf(const Picture& picture, int side) {
-    QImage image(side, side, QImage::Format_RGB32);
-    Raster().Paint(picture, static_cast<double>(side) / picture.Width,
-                   reinterpret_cast<std::uint32_t*>(image.bits()), side, side, side);
+  static QImage RasterOf(const Picture& picture, QSize size) {
+    QImage image(size, QImage::Format_RGB32);
+    Raster().Paint(picture, static_cast<double>(size.width()) / picture.Width,
+                   reinterpret_cast<std::uint32_t*>(image.bits()), size.width(), size.height(),
+                   size.width());
     return image;
+  }
+  static QImage RasterOf(const Picture& picture, int side) {
+    return RasterOf(picture, QSize(side, side));
   }
   // The smallest box round everything in `area` that is not white.
   static QRect InkIn(const QImage& paper, const QRect& area) {
@@ -142,6 +146,31 @@ TEST_F(PrintedPage, OfThePlotIsItsWindowOnceMoreAndAsLargeAsThePaper) {
   EXPECT_LT(difference / (small.width() * small.height()), 8);
   EXPECT_TRUE(platform.Effects.empty());
   EXPECT_TRUE(desk.plot.Visible);
+}
+
+// A picture of the screen's size that is blown up has not these pixels.
+TEST_F(PrintedPage, OfThePlotIsPaintedInThePixelsOfThePaper) {
+  Click(desk, main.RCDP);
+  const Place plan = desk.plot.Row.At;
+  QImage paper(3 * plan.Width / TwipsPerPixel, 3 * plan.Height / TwipsPerPixel,
+               QImage::Format_RGB32);
+  {
+    QPainter painter(&paper);
+    DrawWindow(painter, QRectF(paper.rect()), 100, skin, desk.plot);
+  }
+
+  const Scale thrice{.Factor = 3, .Ratio = 1};
+  for (const PictureBox& area : desk.plot.Area) {
+    Place at = area.At;
+    for (const Control* above = area.Parent; above != nullptr; above = above->Parent) {
+      at.Left += above->At.Get().Left;
+      at.Top += above->At.Get().Top;
+    }
+    const QRect face = thrice.Device(at);
+    const QImage drawn = RasterOf(*area.Image(), face.size());
+    const QRect inner = drawn.rect().adjusted(3, 3, -3, -3);  // without the area's edge
+    EXPECT_EQ(paper.copy(inner.translated(face.topLeft())), drawn.copy(inner)) << area.FullName();
+  }
 }
 
 TEST_F(PrintedPage, WithoutAPrinterIsRefusedWithAMessageAndTheProgramGoesOn) {
