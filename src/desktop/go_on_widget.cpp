@@ -16,7 +16,7 @@ void GoOnWidget::paintEvent(QPaintEvent*) {
   const QRectF face = EnterPixels(painter);
   const double unit = Unit();
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor::fromRgba(held_ || underMouse() ? kDeep : kAccent));
+  painter.setBrush(QColor::fromRgba(IsHeld() || underMouse() ? kDeep : kAccent));
   painter.drawEllipse(face);
   if (HasRing()) {
     const double out = (kRingOut - kRingWidth / 2) * unit;

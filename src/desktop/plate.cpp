@@ -101,8 +101,8 @@ void Plate::PaintBevel(QPainter& painter, const QRect& face) {
     PaintCaption(painter, face, kDisabled, letters);
     return;
   }
-  const bool hover = underMouse() || held_;
-  const QRgb fill = held_             ? kPress
+  const bool hover = underMouse() || IsHeld();
+  const QRgb fill = IsHeld()          ? kPress
                     : look.Bevel == 1 ? kTint
                     : hover           ? kHover
                     : look.Bevel == 2 ? kFace
@@ -218,16 +218,23 @@ void Plate::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   const bool own = hasFocus();  // else it has come up from a control that stands on this one
   if (!own || (!enter && event->key() != Qt::Key_Space)) return event->ignore();
-  if (event->isAutoRepeat()) return;
-  held_ = true;
+  if (event->isAutoRepeat() || held_key_.has_value()) return;
+  held_key_ = event->key();
   update();
 }
 
 void Plate::keyReleaseEvent(QKeyEvent* event) {
-  if (!held_ || event->isAutoRepeat()) return event->ignore();
-  held_ = false;
+  if (held_key_ != event->key() || event->isAutoRepeat()) return event->ignore();
+  held_key_.reset();
   update();
   ClickInTheMiddle();
+}
+
+// The key will be let go elsewhere.
+void Plate::focusOutEvent(QFocusEvent* event) {
+  Viewed::focusOutEvent(event);
+  held_key_.reset();
+  update();
 }
 
 }  // namespace orvane

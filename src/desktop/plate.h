@@ -2,6 +2,8 @@
 // click.
 #pragma once
 
+#include <optional>
+
 #include <QMouseEvent>
 #include <QWidget>
 
@@ -25,15 +27,20 @@ class Plate : public Viewed<QWidget> {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+  bool IsHeld() const { return held_ || held_key_.has_value(); }
 
   const Dress& dress_;
-  bool held_ = false;
 
  private:
   void PaintBevel(QPainter& painter, const QRect& face);
   void PaintSwatch(QPainter& painter, const QRect& face);
   void PaintPlain(QPainter& painter, const QRect& face);
   void PaintCaption(QPainter& painter, const QRect& face, QRgb ink, Type letters);
+
+  bool held_ = false;            // by the left button
+  std::optional<int> held_key_;  // which clicks when it is let go while the keyboard is still here
 };
 
 // Left, right and middle button, as events count them; the sum of those held for a move.

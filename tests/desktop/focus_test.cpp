@@ -100,6 +100,45 @@ TEST(Focus, AKeyIsAPressOfTheLeftButtonToo) {
   EXPECT_EQ(presses.Last.Index, 2);
 }
 
+TEST(Focus, OnlyTheKeyThatHoldsAButtonClicksItWhenItIsLetGo) {
+  WindowAtWork work;
+  Heard clicks(work.main.Bt3_Dts, EventKind::Click);
+  QWidget& button = work.WidgetOf(work.main.Bt3_Dts);
+  button.setFocus();
+
+  QTest::keyPress(&button, Qt::Key_Space);
+  QTest::keyPress(&button, Qt::Key_Return);
+  QTest::keyRelease(&button, Qt::Key_Return);
+  QTest::keyClick(&button, Qt::Key_Shift);
+  EXPECT_EQ(clicks.Count, 0);
+  QTest::keyRelease(&button, Qt::Key_Space);
+
+  EXPECT_EQ(clicks.Count, 1);
+}
+
+// Space goes down on the button, and is let go when the keyboard is elsewhere.
+TEST(Focus, AButtonIsHeldByNoKeyOnceTheKeyboardHasLeftIt) {
+  WindowAtWork work;
+  Heard clicks(work.main.Bt3_Dts, EventKind::Click);
+  QWidget& button = work.WidgetOf(work.main.Bt3_Dts);
+  button.setFocus();
+  const QImage before = work.Shot();
+  QTest::keyPress(&button, Qt::Key_Space);
+  EXPECT_NE(work.Shot(), before) << "it looks pressed";
+
+  Tab(work);
+  QWidget* next = work.window.focusWidget();
+  ASSERT_NE(next, &button);
+  QTest::keyRelease(next, Qt::Key_Space);
+  QTest::keyPress(next, Qt::Key_Backtab, Qt::ShiftModifier);
+  ASSERT_TRUE(button.hasFocus());
+  EXPECT_EQ(work.Shot(), before);
+  QTest::keyRelease(&button, Qt::Key_Backtab, Qt::ShiftModifier);
+  QTest::keyRelease(&button, Qt::Key_Space);
+
+  EXPECT_EQ(clicks.Count, 0);
+}
+
 TEST(Focus, AFloatingPanelTakesTheNextPlace) {
   WindowAtWork work;
   work.WidgetOf(work.main.Bt3_Reset).setFocus();
