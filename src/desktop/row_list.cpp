@@ -102,6 +102,11 @@ QRectF RowList::BarThumb() const {
           std::round(kThumbWidth * unit), std::round(length)};
 }
 
+bool RowList::IsOnBar(QPointF widget_point) const {
+  const double x = (widget_point.x() - FaceInWidget().left()) * host.scale.Ratio;
+  return HasBar() && x >= BarThumb().left() - Unit();
+}
+
 void RowList::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect face = EnterPixels(painter);
@@ -181,9 +186,9 @@ void RowList::Point(int row) {
 
 void RowList::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  const QPointF at = (event->position() - FaceInWidget().topLeft()) * host.scale.Ratio;
-  const QRectF thumb = BarThumb();
-  if (HasBar() && at.x() >= thumb.left() - Unit()) {
+  if (IsOnBar(event->position())) {
+    const QPointF at = (event->position() - FaceInWidget().topLeft()) * host.scale.Ratio;
+    const QRectF thumb = BarThumb();
     bar_held_ = true;
     grip_ = thumb.adjusted(-Unit(), 0, Unit(), 0).contains(at) ? at.y() - thumb.top()
                                                                : thumb.height() / 2;
@@ -208,8 +213,9 @@ void RowList::mouseReleaseEvent(QMouseEvent*) {
 }
 
 void RowList::mouseDoubleClickEvent(QMouseEvent* event) {
+  const bool on_row = event->button() == Qt::LeftButton && !IsOnBar(event->position());
   const int row = RowAt(event->position());
-  if (row < 0 || row != chosen_) return mousePressEvent(event);
+  if (!on_row || row < 0 || row != chosen_) return mousePressEvent(event);
   ChooseTwice(row);
 }
 

@@ -64,7 +64,8 @@ class RowList : public Viewed<QWidget> {
   Parts PartsOf(int row) const;
   int LastFirst() const;  // the first row when the last one is in view
   bool HasBar() const { return LastFirst() > 0; }
-  QRectF BarThumb() const;     // device pixels of the face
+  QRectF BarThumb() const;  // device pixels of the face
+  bool IsOnBar(QPointF widget_point) const;
   double RoomForText() const;  // pixels
   bool IsCut(int row) const;
   void ScrollTo(int first);

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QTemporaryDir>
+
 #include "desktop/flyout.h"
 #include "desktop/row_list.h"
 #include "window_fixture.h"
@@ -135,6 +138,32 @@ TEST(Lists, ThePulledThumbScrollsAndChoosesNothing) {
 
   EXPECT_EQ(rows.FirstRow(), 2);
   EXPECT_EQ(clicks.Count, 0);
+}
+
+// The chosen folder is the last of many: beside its row stands the thumb, at the track's lower end.
+TEST(Lists, OnlyTwoClicksOfTheLeftButtonOnARowOpenIt) {
+  ListsAtWork work;
+  QTemporaryDir folder;
+  for (int i = 10; i < 40; ++i) ASSERT_TRUE(QDir(folder.path()).mkdir(QString::number(i)));
+  work.main.P_Dir_Holder.Visible = true;
+  const std::string path = folder.path().toStdString();
+  OpenFolder(work.desk, work.main.Dir1, path);
+  auto& rows = dynamic_cast<RowList&>(work.WidgetOf(work.main.Dir1));
+  QTest::keyClick(&rows, Qt::Key_End);
+  ASSERT_EQ(rows.ChosenRow(), rows.Rows().size() - 1);
+  ASSERT_GT(rows.FirstRow(), 0);
+  const QPoint row = rows.RowMiddle(rows.ChosenRow());
+  const auto twice = [&](Qt::MouseButton button, QPoint at) {
+    QTest::mouseDClick(&rows, button, {}, at);
+    QTest::mouseRelease(&rows, button, {}, at);
+  };
+
+  twice(Qt::LeftButton, {static_cast<int>(rows.FaceInWidget().right()) - 5, row.y()});
+  EXPECT_EQ(work.main.Dir1.Path.Get(), path) << "the bar";
+  twice(Qt::RightButton, row);
+  EXPECT_EQ(work.main.Dir1.Path.Get(), path) << "the right button";
+  twice(Qt::LeftButton, row);
+  EXPECT_EQ(work.main.Dir1.Path.Get(), path + "/39");
 }
 
 TEST(Lists, ALongRowEndsInAnEllipsis) {
