@@ -1,9 +1,18 @@
 #include "desktop/accessible_value.h"
 
+#include <QTimer>
+
 #include "desktop/bar_widget.h"
 #include "desktop/file_list_widget.h"
 
 namespace orvane {
+namespace {
+
+void SetOpen(BarWidget& bar, int value) {
+  if (bar.control.IsOpenToUser()) bar.setValue(value);
+}
+
+}  // namespace
 
 BarWidget* AccessibleBar::Bar() const { return dynamic_cast<BarWidget*>(widget()); }
 
@@ -22,9 +31,12 @@ QVariant AccessibleBar::currentValue() const {
   return bar == nullptr ? QVariant() : QVariant(bar->value());
 }
 
+// After the reader's call, as actions are: the step may open a box.
 void AccessibleBar::setCurrentValue(const QVariant& value) {
-  BarWidget* bar = Bar();
-  if (bar != nullptr && bar->control.IsOpenToUser()) bar->setValue(value.toInt());
+  QWidget* shown = widget();
+  QTimer::singleShot(0, shown, [shown, to = value.toInt()] {
+    if (auto* bar = dynamic_cast<BarWidget*>(shown)) SetOpen(*bar, to);
+  });
 }
 
 QVariant AccessibleBar::maximumValue() const {
@@ -48,7 +60,7 @@ void AccessibleBar::Do(const QString& name) {
   BarWidget* bar = Bar();
   if (bar == nullptr) return;
   const int step = name == increaseAction() ? bar->singleStep() : -bar->singleStep();
-  setCurrentValue(bar->value() + step);
+  SetOpen(*bar, bar->value() + step);
 }
 
 QString AccessibleDrives::text(QAccessible::Text which) const {

@@ -252,12 +252,44 @@ TEST(ScreenReader, ABarHasAValueThatCanBeSet) {
   EXPECT_EQ(value->minimumStepSize().toInt(), 5);
 
   value->setCurrentValue(30);
+  QCoreApplication::processEvents();
   EXPECT_EQ(bar.Value, 30);
   Do(reader, QAccessibleActionInterface::decreaseAction());
 
   EXPECT_EQ(bar.Value, 25);
   EXPECT_EQ(value->currentValue().toInt(), 25);
   EXPECT_EQ(changes.Count, 2);
+}
+
+// A step may open a box, and the reader would wait in its call until the user has closed that.
+TEST(ScreenReader, ABarIsSteppedWhenTheReadersCallIsOver) {
+  WindowAtWork work;
+  ScrollBar& bar = work.main.ZoomBar;
+  QAccessibleInterface* reader = InterfaceOf(work.WidgetOf(bar));
+  const QString increase = QAccessibleActionInterface::increaseAction();
+
+  reader->valueInterface()->setCurrentValue(30);
+  EXPECT_EQ(bar.Value, 0);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(bar.Value, 30);
+
+  // Two steps of 5 that are asked for before the first is done.
+  reader->actionInterface()->doAction(increase);
+  reader->actionInterface()->doAction(increase);
+  EXPECT_EQ(bar.Value, 30);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(bar.Value, 40);
+}
+
+TEST(ScreenReader, ABarThatIsDisabledMeanwhileIsNotStepped) {
+  WindowAtWork work;
+  ScrollBar& bar = work.main.ZoomBar;
+
+  InterfaceOf(work.WidgetOf(bar))->valueInterface()->setCurrentValue(30);
+  bar.Enabled = false;
+  QCoreApplication::processEvents();
+
+  EXPECT_EQ(bar.Value, 0);
 }
 
 TEST(ScreenReader, ABoxForTypingIsReadAndTypedInto) {
