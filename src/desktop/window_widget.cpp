@@ -171,13 +171,10 @@ void WindowWidget::resizeEvent(QResizeEvent* event) {
 void WindowWidget::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   if (event->spontaneous()) return;
-  FitTheScreen();
-  LayAll();
+  ComeToScreen();
   if (StateOf(*this) == WindowState::Normal) StandOnScreen();
-  connect(windowHandle(), &QWindow::screenChanged, this, [this] {
-    FitTheScreen();
-    LayAll();
-  });
+  connect(windowHandle(), &QWindow::screenChanged, this, &WindowWidget::ComeToScreen,
+          Qt::UniqueConnection);
 }
 
 void WindowWidget::changeEvent(QEvent* event) {
@@ -204,6 +201,11 @@ void WindowWidget::FitTheScreen() {
   // Only a window that answers to another size can get one.
   if (!shown.Handles(EventKind::Resize)) setMaximumSize(size);
   if (StateOf(*this) == WindowState::Normal) resize(size);
+}
+
+void WindowWidget::ComeToScreen() {
+  FitTheScreen();
+  LayAll();
 }
 
 void WindowWidget::StandOnScreen() {

@@ -71,6 +71,7 @@ class WindowWidget : public QWidget {
   void SetTabOrder();
   void StandOnScreen();
   void FitTheScreen();
+  void ComeToScreen();  // one that may differ from the last in size and density
   double NormalFactor() const;
   QSize NormalSize() const;
 

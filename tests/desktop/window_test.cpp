@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QScreen>
+#include <QWindow>
 
 #include "window_fixture.h"
 
@@ -17,6 +18,38 @@ TEST(TheWindow, HasItsFixedSizeAndStandsInTheMiddleOfTheScreen) {
   EXPECT_EQ(work.window.size(), QSize(567, 485));
   EXPECT_LE(std::abs(off.x()), 1);
   EXPECT_LE(std::abs(off.y()), 1);
+}
+
+// How many are told when a window comes to another screen. The toolkit lets only the window ask.
+int HearersOfTheScreen(const QWindow& window) {
+  struct Ask : QWindow {
+    using QWindow::receivers;
+  };
+  int (QObject::*const ask)(const char*) const = &Ask::receivers;
+  return (window.*ask)(SIGNAL(screenChanged(QScreen*)));
+}
+
+TEST(TheWindow, HearsOnceOfAnotherScreenHoweverOftenItWasShown) {
+  WindowAtWork work;
+  const int before = HearersOfTheScreen(*work.window.windowHandle());
+  ASSERT_GE(before, 1);
+
+  for (int i = 0; i < 3; ++i) {
+    work.main.Visible = false;
+    work.main.Visible = true;
+  }
+
+  EXPECT_EQ(HearersOfTheScreen(*work.window.windowHandle()), before);
+}
+
+TEST(TheWindow, IsLaidAnewOnAnotherScreen) {
+  WindowAtWork work;
+  QWidget& ground = work.window.Desk();
+  ground.resize(10, 10);
+
+  emit work.window.windowHandle()->screenChanged(work.window.screen());
+
+  EXPECT_EQ(ground.size(), work.window.size());
 }
 
 TEST(TheWindow, ItsTitleIsTheCaption) {
