@@ -110,11 +110,13 @@ void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const bool click =
+      held_ && event->button() == Qt::LeftButton && FaceInWidget().contains(event->position());
+  held_ = false;
   const QPointF at = SurfacePoint(event->position());
   Release(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
           static_cast<float>(at.y()));
-  if (held_ && FaceInWidget().contains(event->position())) Click(host.skin.desk, control);
-  held_ = false;
+  if (click) Click(host.skin.desk, control);
 }
 
 }  // namespace orvane

@@ -86,7 +86,8 @@ void TabWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void TabWidget::mouseReleaseEvent(QMouseEvent* event) {
-  const bool click = held_ && rect().contains(event->position().toPoint());
+  const bool click =
+      held_ && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
   held_ = false;
   update();
   if (click) Click(host.skin.desk, control);

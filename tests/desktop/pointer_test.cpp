@@ -55,6 +55,26 @@ TEST(Pointer, OnlyTheLeftButtonClicks) {
   EXPECT_EQ(clicks.Count, 0);
 }
 
+// The right button is let go while the left one is held.
+TEST(Pointer, NoOtherButtonThatIsLetGoClicksForTheLeft) {
+  WindowAtWork work;
+  for (const Control* control : std::initializer_list<const Control*>{
+           &work.main.Bt3_Dts, &work.main.Picture1, &work.main.Bt_M_Ld}) {
+    Heard clicks(*work.desk.FindControl(control->FullName()), EventKind::Click);
+    QWidget& widget = work.WidgetOf(*control);
+    const QPoint at = work.Middle(*control);
+
+    QTest::mousePress(&widget, Qt::RightButton, {}, at);
+    QTest::mousePress(&widget, Qt::LeftButton, {}, at);
+    QTest::mouseRelease(&widget, Qt::RightButton, {}, at);
+    EXPECT_EQ(clicks.Count, 0) << control->FullName();
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, at);
+    const int before = clicks.Count;
+    QTest::mouseClick(&widget, Qt::LeftButton, {}, at);
+    EXPECT_EQ(clicks.Count, before + 1) << control->FullName();
+  }
+}
+
 TEST(Pointer, ADisabledButtonHearsNothing) {
   WindowAtWork work;
   Heard clicks(work.main.Bt3_Isomers, EventKind::Click);
