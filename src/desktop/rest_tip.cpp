@@ -16,18 +16,19 @@ bool RestTip::Answer(const QHelpEvent& rest) {
   const QPointF at = view_.SurfacePoint(rest.pos());
   const std::string words = RestWords(view_.host.skin.desk, view_.control,
                                       static_cast<float>(at.x()), static_cast<float>(at.y()));
-  shown_ = !words.empty();
-  if (!shown_) return false;
+  shown_ = QString::fromStdString(words);
+  if (shown_.isEmpty()) return false;
   const int reach = std::max(1, static_cast<int>(kRestReach * view_.host.scale.Factor));
   const QRect place(rest.pos() - QPoint(reach, reach), QSize(2 * reach + 1, 2 * reach + 1));
-  QToolTip::showText(rest.globalPos(), QString::fromStdString(words), &view_.widget, place);
+  QToolTip::showText(rest.globalPos(), shown_, &view_.widget, place);
   return true;
 }
 
+// There is one tip at a time, and by now it may be that of another control.
 void RestTip::Drop() {
-  if (!shown_) return;
-  shown_ = false;
-  QToolTip::hideText();
+  if (shown_.isEmpty()) return;
+  if (QToolTip::text() == shown_) QToolTip::hideText();
+  shown_.clear();
 }
 
 }  // namespace orvane

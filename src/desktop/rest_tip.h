@@ -19,7 +19,7 @@ class RestTip {
 
  private:
   const ControlView& view_;
-  bool shown_ = false;
+  QString shown_;  // the words of the last tip, which may be gone by now
 };
 
 }  // namespace orvane

@@ -75,6 +75,21 @@ TEST_F(RestTipTest, TheTipGoesWhenThePictureChanges) {
   EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 10000));
 }
 
+// The tip over the atom has made way for that of a button, which the picture has no part in.
+TEST_F(RestTipTest, ATipOfAnotherControlStaysWhenThePictureChanges) {
+  Choose(main.Nuc_Lst, "PHS");
+  ASSERT_NE(TipAtAtom(3), "");
+  QWidget& button = WidgetOf(main.Bt3_Reset);
+  Rest(button, Middle(main.Bt3_Reset));
+  ASSERT_EQ(QToolTip::text(), button.toolTip());
+  ASSERT_NE(button.toolTip(), "");
+
+  Click(desk, main.D_StB);
+
+  EXPECT_FALSE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 1000));
+  EXPECT_EQ(QToolTip::text(), button.toolTip());
+}
+
 TEST_F(RestTipTest, AnAtomIsFoundInAMaximisedWindowToo) {
   Choose(main.Nuc_Lst, "PHS");
   window.showMaximized();
