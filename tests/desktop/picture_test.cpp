@@ -70,12 +70,16 @@ struct Paints : QObject {
 
 TEST(ThePicture, IsPaintedOnceHoweverOftenItWasDrawnOn) {
   PictureAtWork work;
-  work.ClickRow(work.main.AA_Lst, 1);
-  QTest::qWait(50);
   Paints paints;
+  const auto painted = [&] { return paints.Count >= 1; };
   work.WidgetOf(work.main.Picture1).installEventFilter(&paints);
+  work.ClickRow(work.main.AA_Lst, 1);
+  ASSERT_TRUE(QTest::qWaitFor(painted));
+  QTest::qWait(50);
+  paints.Count = 0;
 
   for (int i = 0; i < 20; ++i) work.main.ZoomBar.SetValue(i * 5);
+  ASSERT_TRUE(QTest::qWaitFor(painted));
   QTest::qWait(50);
 
   EXPECT_EQ(paints.Count, 1);
