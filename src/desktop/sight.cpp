@@ -1,5 +1,6 @@
 #include "desktop/sight.h"
 
+#include <QApplication>
 #include <QShortcut>
 #include <QToolTip>
 
@@ -43,17 +44,15 @@ QRgb Sight::Shown(QRgb colour) const {
   return qRgb(Red(shown), Green(shown), Blue(shown));
 }
 
-void GiveSightItsKey(Sight& sight, QWidget& window, QWidget& picture) {
+void GiveSightItsKey(Sight& sight, QWidget& window, QWidget& told_over) {
   auto* key = new QShortcut(Qt::Key_F8, &window);
-  QObject::connect(key, &QShortcut::activated, &picture, [&] { TurnSight(sight, picture); });
+  QObject::connect(key, &QShortcut::activated, &told_over, [&] { TurnSight(sight, told_over); });
 }
 
-void TurnSight(Sight& sight, QWidget& picture) {
+void TurnSight(Sight& sight, QWidget& told_over) {
   sight.Next();
-  QWidget& window = *picture.window();
-  window.update();
-  for (QWidget* part : window.findChildren<QWidget*>()) part->update();
-  QToolTip::showText(picture.mapToGlobal(QPoint(8, 8)), sight.Words(), &picture, {}, kTipStays);
+  for (QWidget* part : QApplication::allWidgets()) part->update();
+  QToolTip::showText(told_over.mapToGlobal(QPoint(8, 8)), sight.Words(), &told_over, {}, kTipStays);
 }
 
 }  // namespace orvane

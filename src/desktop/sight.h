@@ -49,10 +49,10 @@ class Sight {
   int leaving_ = 0;
 };
 
-// F8, wherever the keyboard is in the window.
-void GiveSightItsKey(Sight& sight, QWidget& window, QWidget& picture);
+// F8, wherever the keyboard is in the window, which need not be that of the pictures.
+void GiveSightItsKey(Sight& sight, QWidget& window, QWidget& told_over);
 
-// The next sight, with every picture painted anew and a word about it over `picture`.
-void TurnSight(Sight& sight, QWidget& picture);
+// The next sight, with every picture painted anew and a word about it.
+void TurnSight(Sight& sight, QWidget& told_over);
 
 }  // namespace orvane

@@ -53,9 +53,8 @@ WindowWidget& Skin::WindowOf(Window& window) {
   std::unique_ptr<WindowWidget>& widget = windows_[&window];
   if (widget != nullptr) return *widget;
   widget = std::make_unique<WindowWidget>(*this, window);
-  if (&window == &desk.main) {
-    GiveSightItsKey(sight, *widget, widget->ViewOf(desk.main.Picture1)->widget);
-  }
+  const ControlView* picture = widget->ViewOf(desk.main.Picture1);
+  GiveSightItsKey(sight, *widget, picture == nullptr ? *widget : picture->widget);
   return *widget;
 }
 
@@ -65,7 +64,10 @@ QWidget* Skin::WidgetOf(const Control& control) {
 }
 
 void Skin::ShowKeySheet() {
-  if (sheet_ == nullptr) sheet_ = std::make_unique<KeySheetWindow>();
+  if (sheet_ == nullptr) {
+    sheet_ = std::make_unique<KeySheetWindow>();
+    GiveSightItsKey(sight, *sheet_, *sheet_);
+  }
   sheet_->Turn();
 }
 

@@ -106,6 +106,47 @@ TEST(TheSight, IsTurnedByOneKeyWhereverTheKeyboardIs) {
   }
 }
 
+// How often a widget was painted.
+struct Paints : QObject {
+  int Count = 0;
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++Count;
+    return false;
+  }
+};
+
+TEST(TheSight, IsTurnedByTheSameKeyInEveryWindow) {
+  SightAtWork work;
+  Paints paints;
+  work.WidgetOf(work.main.Picture1).installEventFilter(&paints);
+  work.skin.ShowKeySheet();
+  std::vector<QWidget*> windows;
+  for (Window* window : work.desk.windows) {
+    if (window == &work.desk.page) continue;  // never shown
+    window->Show();
+    windows.push_back(&work.skin.WindowOf(*window));
+  }
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == QLatin1String("KeySheet")) windows.push_back(window);
+  }
+  ASSERT_EQ(windows.size(), 6U);
+  for (QWidget* window : windows) {
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    QTest::qWait(50);
+    const QString before = work.skin.sight.Words();
+    paints.Count = 0;
+
+    QTest::keyClick(window, Qt::Key_F8);
+
+    EXPECT_NE(work.skin.sight.Words(), before) << window->objectName().toStdString();
+    EXPECT_EQ(QToolTip::text(), work.skin.sight.Words()) << window->objectName().toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.Count > 0; }, 1000))
+        << window->objectName().toStdString();
+  }
+  QToolTip::hideText();
+}
+
 TEST(TheSight, TellsWhichEyeItIsForInATipAndNotInTheTitle) {
   SightAtWork work;
   const QString title = work.window.windowTitle();
