@@ -239,6 +239,20 @@ TEST(AReason, IsOfTheSameKindWhateverItsNumbersAndWords) {
   EXPECT_NE(KindOfReason("Bt3_Label reads \"On\""), KindOfReason("Bt3_HBD reads \"On\""));
 }
 
+TEST(ALifeApart, SaysWhenTheSearchForLeaksBrokeDown) {
+  const auto says = [](const char* text, int code) {
+    return RunApart([=] {
+      std::cerr << text;
+      return code;
+    });
+  };
+  const char* const broke =
+      "Tracer caught signal 11\nLeakSanitizer has encountered a fatal error.\n";
+  EXPECT_TRUE(LeakSearchBroke(says(broke, 1)));
+  EXPECT_FALSE(LeakSearchBroke(says("ERROR: LeakSanitizer: detected memory leaks", 1)));
+  EXPECT_FALSE(LeakSearchBroke(says(broke, 0)));
+}
+
 TEST(ALifeApart, SaysHowItEnded) {
   EXPECT_EQ(RunApart([] { return 0; }).Status, 0);
   EXPECT_EQ(HowItEnded(RunApart([] { return 5; })), "exit code 5");

@@ -76,6 +76,11 @@ std::string HowItEnded(const Ending& ending) {
   return summary.empty() ? how : how + ", " + summary;
 }
 
+bool LeakSearchBroke(const Ending& ending) {
+  return WIFEXITED(ending.Status) && WEXITSTATUS(ending.Status) != 0 &&
+         ending.Said.find("LeakSanitizer has encountered a fatal error") != std::string::npos;
+}
+
 std::string KindOfReason(std::string_view reason) {
   std::string kind;
   bool is_quoted = false;

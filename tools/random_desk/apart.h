@@ -23,6 +23,10 @@ std::string TextOf(int file);
 // "signal Aborted", "exit code 1", with the sanitizer's summary behind it when there is one.
 std::string HowItEnded(const Ending& ending);
 
+// The search for leaks at the end has itself come to grief, which says nothing of the life before
+// it.
+bool LeakSearchBroke(const Ending& ending);
+
 // What two reasons have in common that tell of the same fault: all but numbers and quoted words.
 std::string KindOfReason(std::string_view reason);
 
