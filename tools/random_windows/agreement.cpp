@@ -1,9 +1,11 @@
 #include "random_windows/agreement.h"
 
+#include <QAbstractSlider>
 #include <QAction>
 #include <QLineEdit>
 
 #include "controls/kinds.h"
+#include "controls/scroll_bar.h"
 #include "controls/spoken.h"
 #include "desktop/control_view.h"
 #include "desktop/menu_strip.h"
@@ -63,6 +65,14 @@ std::string ViewDiffers(const ControlView& view) {
   if (control.Row.Kind == ControlKind::List) {
     return ListDiffers(dynamic_cast<const RowList&>(widget), dynamic_cast<const List&>(control));
   }
+  if (control.Row.Kind == ControlKind::ScrollBar) {
+    const auto& bar = dynamic_cast<const ScrollBar&>(control);
+    const auto& shown = dynamic_cast<const QAbstractSlider&>(widget);
+    if (shown.value() != bar.Value) return "stands at another value";
+    if (shown.minimum() != bar.Range.Min || shown.maximum() != bar.Range.Max) {
+      return "has another range";
+    }
+  }
   if (control.Row.Kind == ControlKind::TextBox) {
     const auto& box = dynamic_cast<const TextBox&>(control);
     if (dynamic_cast<const QLineEdit&>(widget).text() != Text(box.Text.Get())) {
@@ -72,14 +82,24 @@ std::string ViewDiffers(const ControlView& view) {
   return "";
 }
 
-// What is on the screen of a picture against one that is made anew.
+std::shared_ptr<const Picture> PictureOf(const Control& control) {
+  if (const auto* box = dynamic_cast<const PictureBox*>(&control)) return box->Image();
+  if (const auto* image = dynamic_cast<const ImageBox*>(&control)) return image->Shown();
+  return nullptr;
+}
+
+// What is on the screen of a picture, or of a half of a split view, against one that is made anew.
 std::string PixelsDiffer(ControlView& view) {
   auto* shown = dynamic_cast<PictureWidget*>(&view);
-  const auto* box = dynamic_cast<const PictureBox*>(&view.control);
-  if (shown == nullptr || box == nullptr || !shown->isVisible()) return "";
+  if (shown == nullptr || !shown->isVisible()) return "";
   const QImage pixels = shown->Pixels();
-  const auto picture = box->Image();
+  const auto picture = PictureOf(view.control);
+  if (pixels.isNull()) return "";
   QImage anew(pixels.size(), QImage::Format_RGB32);
+  if (picture == nullptr || picture->Width == 0) {
+    anew.fill(Qt::black);
+    return pixels == anew ? "" : "shows a picture that it was not given";
+  }
   Raster().Paint(*picture, static_cast<double>(anew.width()) / picture->Width,
                  reinterpret_cast<std::uint32_t*>(anew.bits()), anew.width(), anew.height(),
                  static_cast<int>(anew.bytesPerLine() / 4));

@@ -17,11 +17,13 @@
 namespace orvane {
 namespace {
 
-constexpr Qt::Key kKeys[] = {Qt::Key_Tab,  Qt::Key_Backtab,   Qt::Key_Alt,      Qt::Key_Escape,
-                             Qt::Key_F1,   Qt::Key_Return,    Qt::Key_Space,    Qt::Key_Up,
-                             Qt::Key_Down, Qt::Key_Left,      Qt::Key_Right,    Qt::Key_Home,
-                             Qt::Key_End,  Qt::Key_PageUp,    Qt::Key_PageDown, Qt::Key_Delete,
-                             Qt::Key_F10,  Qt::Key_Backspace, Qt::Key_Menu,     Qt::Key_Enter};
+constexpr Qt::Key kKeys[] = {Qt::Key_Tab,   Qt::Key_Backtab,   Qt::Key_Alt,      Qt::Key_Escape,
+                             Qt::Key_F1,    Qt::Key_Return,    Qt::Key_Space,    Qt::Key_Up,
+                             Qt::Key_Down,  Qt::Key_Left,      Qt::Key_Right,    Qt::Key_Home,
+                             Qt::Key_End,   Qt::Key_PageUp,    Qt::Key_PageDown, Qt::Key_Delete,
+                             Qt::Key_F10,   Qt::Key_Backspace, Qt::Key_Menu,     Qt::Key_Enter,
+                             Qt::Key_F6,    Qt::Key_F8,        Qt::Key_Plus,     Qt::Key_Minus,
+                             Qt::Key_Comma, Qt::Key_Period,    Qt::Key_Semicolon};
 constexpr Qt::MouseButton kButtons[] = {Qt::LeftButton,  Qt::LeftButton,  Qt::LeftButton,
                                         Qt::RightButton, Qt::RightButton, Qt::MiddleButton};
 constexpr Qt::KeyboardModifier kModifiers[] = {Qt::NoModifier,      Qt::NoModifier,
@@ -49,10 +51,22 @@ void ClickOn(QWidget& window, Qt::MouseButton button, Qt::KeyboardModifiers with
   if (handle != nullptr) QTest::mouseRelease(handle.data(), button, with, place);
 }
 
-template <class Taker>
-void StrikeKey(const QPointer<Taker>& taker, Qt::Key key, Qt::KeyboardModifiers with) {
-  QTest::keyPress(taker.data(), key, with);
-  if (taker != nullptr) QTest::keyRelease(taker.data(), key, with);
+// The toolkit's own way to press a key goes on with the window after its modifier, and an Alt alone
+// ends a menu.
+void StrikeKey(const QPointer<QWindow>& taker, Qt::Key key, Qt::KeyboardModifiers with) {
+  const char letter = QTest::keyToAscii(key);
+  const QString text = letter == 0 ? QString() : QString(QChar::fromLatin1(letter));
+  const auto send = [&](bool down, Qt::Key code, Qt::KeyboardModifiers held, const QString& says) {
+    if (taker != nullptr) QTest::simulateEvent(taker.data(), down, code, held, says, false);
+  };
+  const Qt::Key modifier = with == Qt::ShiftModifier     ? Qt::Key_Shift
+                           : with == Qt::ControlModifier ? Qt::Key_Control
+                           : with == Qt::AltModifier     ? Qt::Key_Alt
+                                                         : Qt::Key_unknown;
+  if (modifier != Qt::Key_unknown) send(true, modifier, {}, {});
+  send(true, key, with, text);
+  send(false, key, with, text);
+  if (modifier != Qt::Key_unknown) send(false, modifier, with, {});
 }
 
 QWidget* AnyWindow(Hands& hands) {
@@ -130,8 +144,12 @@ void ChooseARow(Hands& hands, QWidget& window) {
   if (list == nullptr || list->Rows().isEmpty()) return ClickSomewhere(hands, window);
   const int row = list->FirstRow() + hands.dice.Below(std::max(1, list->WholeRows()));
   const QPoint place = list->mapTo(&window, list->RowMiddle(row));
-  Tell(hands, "choose row " + std::to_string(row) + At(window, place));
+  const bool twice = hands.dice.OneIn(3);  // a folder is opened so, and a tune played
+  Tell(hands,
+       (twice ? "choose twice row " : "choose row ") + std::to_string(row) + At(window, place));
+  const QPointer<QWindow> handle = window.windowHandle();
   ClickOn(window, Qt::LeftButton, {}, place);
+  if (twice && handle != nullptr) ClickOn(window, Qt::LeftButton, {}, place);
 }
 
 void MoveTo(Hands& hands, QWidget& window) {
@@ -191,6 +209,15 @@ void TickATimer(Hands& hands, QWidget&) {
   if (!hands.outside.BoxIsUp()) Tick(desk, front ? desk.front.Timer1 : desk.main.Timer1);
 }
 
+// Its menu shows nowhere, so it is opened past it; none while a box is up.
+void OpenTheChooser(Hands& hands, QWidget&) {
+  Tell(hands, "open the music chooser");
+  Orvane_Desk& desk = hands.skin.desk;
+  if (hands.outside.BoxIsUp()) return;
+  hands.outside.SoundError = hands.dice.OneIn(3) ? hands.dice.Between(1, 400) : 0;
+  Click(desk, desk.main.OpMfL, Reach::Forced);
+}
+
 void MoveFocus(Hands& hands, QWidget& window) {
   QWidget* widget = AnyOf<QWidget>(hands, window);
   if (widget == nullptr || widget->focusPolicy() == Qt::NoFocus) {
@@ -237,9 +264,10 @@ void ChangeTheWorld(Hands& hands, QWidget&) {
 }
 
 constexpr Happening kInWindows[] = {
-    {260, ClickSomewhere}, {60, Press},      {80, LetGo},   {160, MoveTo},   {25, ClickTwice},
-    {40, TurnWheel},       {110, PressAKey}, {25, Type},    {70, OpenAMenu}, {70, TickATimer},
-    {25, ChooseARow},      {25, MoveFocus},  {12, Reshape}, {4, CloseIt},    {8, ChangeTheWorld},
+    {260, ClickSomewhere}, {60, Press},      {80, LetGo},         {160, MoveTo},
+    {25, ClickTwice},      {40, TurnWheel},  {110, PressAKey},    {25, Type},
+    {70, OpenAMenu},       {70, TickATimer}, {25, ChooseARow},    {25, MoveFocus},
+    {12, Reshape},         {4, CloseIt},     {8, ChangeTheWorld}, {5, OpenTheChooser},
 };
 // A menu or a box has fewer things to do, and one of them is to end it.
 constexpr Happening kInBoxes[] = {

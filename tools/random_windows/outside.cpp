@@ -2,12 +2,24 @@
 
 #include <utility>
 
+#include <QDir>
+#include <QFile>
 #include <QPainter>
 
 #include "desktop/printed_page.h"
 #include "desktop/skin.h"
 
 namespace orvane {
+
+OutsideAtRandom::OutsideAtRandom() {
+  const QDir home(folder_.path());
+  home.mkpath(QStringLiteral("tunes/more"));
+  for (const char* name : {"a.wav", "b.au", "tunes/c.wav", "tunes/d e.wav", "tunes/more/f.wav"}) {
+    QFile tune(home.filePath(QLatin1String(name)));
+    tune.open(QIODevice::WriteOnly);
+  }
+  qputenv("HOME", folder_.path().toUtf8());
+}
 
 void OutsideAtRandom::FailureBox(std::string_view text) {
   ++Failures;
@@ -37,6 +49,11 @@ bool OutsideAtRandom::PrintWindow(Window& page) {
 
 std::string OutsideAtRandom::ProgramFolder() {
   return folder_.path().toStdString() + (SavesFail ? "/nowhere" : "");
+}
+
+int OutsideAtRandom::SoundOpen(const std::string&) {
+  sound_is_open_ = SoundError == 0;
+  return SoundError;
 }
 
 }  // namespace orvane

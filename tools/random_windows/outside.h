@@ -8,13 +8,17 @@
 namespace orvane {
 
 // Boxes are the real ones. Pictures go to a folder that is gone afterwards, pages onto paper of
-// memory, and a wait lets events run once instead of until the next second.
+// memory, tunes nowhere, and a wait lets events run once instead of until the next second. The home
+// of the one who plays is that folder, with a few tunes for the chooser.
 class OutsideAtRandom : public QtPlatform {
  public:
+  OutsideAtRandom();
+
   bool Ended = false;      // the program was told to end
   bool SavesFail = false;  // there is no folder to save to
   bool HasPrinter = true;
   bool IsLetting = false;  // events are let run
+  int SoundError = 0;      // of every tune that is opened
   int Failures = 0;        // boxes that told of one
 
   void Beep() override {}
@@ -24,9 +28,16 @@ class OutsideAtRandom : public QtPlatform {
   void EndProgram() override { Ended = true; }
   bool PrintWindow(Window& page) override;
   std::string ProgramFolder() override;
+  int SoundOpen(const std::string& path) override;
+  void SoundPlay() override {}
+  void SoundStop() override {}
+  void SoundClose() override { sound_is_open_ = false; }
+  bool SoundIsOpen() override { return sound_is_open_; }
+  int SoundLength() override { return 0; }
 
  private:
   QTemporaryDir folder_;
+  bool sound_is_open_ = false;
 };
 
 }  // namespace orvane
