@@ -54,6 +54,9 @@ using Main = MainWindow;
 // By heading, in the order of the sheet.
 // clang-format off
 constexpr auto kKeys = std::to_array<DeskKey>({
+    {Desk, "Anywhere on the desk", "F6", "",     "Go to the picture", false, GoToThePicture},
+    {Desk, "Anywhere on the desk", "Escape", "", "Close the floating panels", false, Push<&Main::Panel3D5>},
+
     {Picture, "Turn", "Right", "Down",     "Turn on about the chosen axis", true, Step<&Main::VScroll1, 1>},
     {Picture, "Turn", "Left", "Up",        "Turn back",                     true, Step<&Main::VScroll1, -1>},
     {Picture, "Turn", "Page Down", "",     "Turn on, by a page of the bar", true, Page<&Main::VScroll1, 1>},
@@ -104,9 +107,6 @@ constexpr auto kKeys = std::to_array<DeskKey>({
     {Map, "On the Ramachandran map", "Left", "Up",    "Show the name before", true, ShowPreviousMapName},
     {Map, "On the Ramachandran map", "Escape", "",    "Close the map", false,
      [](Orvane_Desk& desk) { CloseWindow(desk, desk.plot); }},
-
-    {Desk, "Everywhere", "F6", "",     "Go to the picture", false, GoToThePicture},
-    {Desk, "Everywhere", "Escape", "", "Close the floating panels", false, Push<&Main::Panel3D5>},
 });
 // clang-format on
 
