@@ -17,7 +17,10 @@ void ListenToPending(Sitting& session) {
       session.Pending.pop_front();
       const std::string complaint = PlayOne(session, line);
       if (complaint.empty() || !session.NestedComplaint.empty()) continue;
-      session.NestedComplaint = "\"" + line + "\" that nests in it: " + complaint;
+      session.NestedComplaint.append("\"")
+          .append(line)
+          .append("\" that nests in it: ")
+          .append(complaint);
     }
   };
 }
