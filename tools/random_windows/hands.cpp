@@ -13,6 +13,7 @@
 #include "desk/actions.h"
 #include "desktop/row_list.h"
 #include "desktop/window_widget.h"
+#include "random_windows/strike.h"
 
 namespace orvane {
 namespace {
@@ -42,31 +43,6 @@ void Tell(Hands& hands, const std::string& event) { hands.Telling(event); }
 std::string At(const QWidget& window, QPoint place) {
   return " " + window.objectName().toStdString() + " " + window.metaObject()->className() + " " +
          std::to_string(place.x()) + " " + std::to_string(place.y());
-}
-
-// The first half of each may end the window, and then there is nobody for the second.
-void ClickOn(QWidget& window, Qt::MouseButton button, Qt::KeyboardModifiers with, QPoint place) {
-  const QPointer<QWindow> handle = window.windowHandle();
-  QTest::mousePress(handle.data(), button, with, place);
-  if (handle != nullptr) QTest::mouseRelease(handle.data(), button, with, place);
-}
-
-// The toolkit's own way to press a key goes on with the window after its modifier, and an Alt alone
-// ends a menu.
-void StrikeKey(const QPointer<QWindow>& taker, Qt::Key key, Qt::KeyboardModifiers with) {
-  const char letter = QTest::keyToAscii(key);
-  const QString text = letter == 0 ? QString() : QString(QChar::fromLatin1(letter));
-  const auto send = [&](bool down, Qt::Key code, Qt::KeyboardModifiers held, const QString& says) {
-    if (taker != nullptr) QTest::simulateEvent(taker.data(), down, code, held, says, false);
-  };
-  const Qt::Key modifier = with == Qt::ShiftModifier     ? Qt::Key_Shift
-                           : with == Qt::ControlModifier ? Qt::Key_Control
-                           : with == Qt::AltModifier     ? Qt::Key_Alt
-                                                         : Qt::Key_unknown;
-  if (modifier != Qt::Key_unknown) send(true, modifier, {}, {});
-  send(true, key, with, text);
-  send(false, key, with, text);
-  if (modifier != Qt::Key_unknown) send(false, modifier, with, {});
 }
 
 QWidget* AnyWindow(Hands& hands) {
