@@ -110,9 +110,9 @@ void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
-  const bool click =
-      held_ && event->button() == Qt::LeftButton && FaceInWidget().contains(event->position());
-  held_ = false;
+  const bool left = event->button() == Qt::LeftButton;
+  const bool click = left && held_ && FaceInWidget().contains(event->position());
+  if (left) held_ = false;
   const QPointF at = SurfacePoint(event->position());
   Release(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
           static_cast<float>(at.y()));

@@ -203,9 +203,9 @@ void Plate::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void Plate::mouseReleaseEvent(QMouseEvent* event) {
-  const bool click =
-      held_ && event->button() == Qt::LeftButton && FaceInWidget().contains(event->position());
-  held_ = false;
+  const bool left = event->button() == Qt::LeftButton;
+  const bool click = left && held_ && FaceInWidget().contains(event->position());
+  if (left) held_ = false;
   update();
   const QPointF at = SurfacePoint(event->position());
   Release(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),

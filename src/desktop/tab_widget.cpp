@@ -86,8 +86,8 @@ void TabWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void TabWidget::mouseReleaseEvent(QMouseEvent* event) {
-  const bool click =
-      held_ && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
+  if (event->button() != Qt::LeftButton) return;
+  const bool click = held_ && rect().contains(event->position().toPoint());
   held_ = false;
   update();
   if (click) Click(host.skin.desk, control);

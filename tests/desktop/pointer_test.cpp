@@ -69,9 +69,7 @@ TEST(Pointer, NoOtherButtonThatIsLetGoClicksForTheLeft) {
     QTest::mouseRelease(&widget, Qt::RightButton, {}, at);
     EXPECT_EQ(clicks.Count, 0) << control->FullName();
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, at);
-    const int before = clicks.Count;
-    QTest::mouseClick(&widget, Qt::LeftButton, {}, at);
-    EXPECT_EQ(clicks.Count, before + 1) << control->FullName();
+    EXPECT_EQ(clicks.Count, 1) << control->FullName();
   }
 }
 
