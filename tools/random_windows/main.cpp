@@ -100,15 +100,9 @@ int Play(const Options& options) {
   long events = 0, sittings = 0, failures = 0, wrong = 0;
   for (long seed = options.Seed; events < options.Events; ++seed, ++sittings) {
     const std::string file = "random-windows-" + std::to_string(seed) + ".txt";
-    const auto sit = [&] { return Sit(seed, static_cast<int>(options.Sitting), file); };
-    Ending ending = RunApart(sit);
+    const Ending ending =
+        RunApart([&] { return Sit(seed, static_cast<int>(options.Sitting), file); });
     std::cerr << ending.Said << std::flush;
-    if (LeakSearchBroke(ending)) {  // once more: a sitting is clean only when it was seen to be
-      std::cout << "seed " << seed << ": the search for leaks broke down; played once more"
-                << std::endl;
-      ending = RunApart(sit);
-      std::cerr << ending.Said << std::flush;
-    }
     const Trace trace = ReadTrace(file);
     events += std::max(trace.Events, 1L);
     failures += trace.Failures;
