@@ -59,15 +59,6 @@ TEST(ThePicture, IsRasteredAtTheDensityOfTheScreen) {
   EXPECT_EQ(shot.width(), static_cast<int>(360 * ratio));
 }
 
-// How often the window was asked to paint the picture.
-struct Paints : QObject {
-  int Count = 0;
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++Count;
-    return false;
-  }
-};
-
 TEST(ThePicture, IsPaintedOnceHoweverOftenItWasDrawnOn) {
   PictureAtWork work;
   Paints paints;

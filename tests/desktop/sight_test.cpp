@@ -106,15 +106,6 @@ TEST(TheSight, IsTurnedByOneKeyWhereverTheKeyboardIs) {
   }
 }
 
-// How often a widget was painted.
-struct Paints : QObject {
-  int Count = 0;
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint) ++Count;
-    return false;
-  }
-};
-
 TEST(TheSight, IsTurnedByTheSameKeyInEveryWindow) {
   SightAtWork work;
   Paints paints;

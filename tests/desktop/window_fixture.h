@@ -83,6 +83,15 @@ struct WindowAtWork {
   QImage Shot() { return window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
 };
 
+// How often a widget that it filters the events of was asked to paint itself.
+struct Paints : QObject {
+  int Count = 0;
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++Count;
+    return false;
+  }
+};
+
 // How often an event of that kind came to a control, and the last one.
 struct Heard {
   int Count = 0;
