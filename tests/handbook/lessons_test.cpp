@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <nlohmann/json.hpp>
-#include <numbers>
 #include <set>
 #include <sstream>
 
@@ -73,18 +72,6 @@ Point AsRead(const Molecule& store, int atom) {
   return {store.AtomX[atom], store.AtomY[atom], store.AtomZ[atom]};
 }
 
-double LengthOf(const Point& way) { return std::sqrt(Dot(way, way)); }
-
-double DegreesBetween(const Point& a, const Point& b) {
-  return std::acos(Dot(a, b) / (LengthOf(a) * LengthOf(b))) * 180 / std::numbers::pi;
-}
-
-// The angle between the planes of a, b, c and of b, c, d: the size of the torsion, 0 to 180.
-double TwistOf(const Point& a, const Point& b, const Point& c, const Point& d) {
-  const Point axis = Minus(c, b);
-  return DegreesBetween(Cross(Minus(a, b), axis), Cross(Minus(d, c), axis));
-}
-
 // Plays the lab sheet and looks at each measure: the atoms that were picked, by their places as
 // read, and what the panel makes of them.
 TEST_P(Lesson, ShowsTheGeometryOfItsAtoms) {
@@ -109,11 +96,11 @@ TEST_P(Lesson, ShowsTheGeometryOfItsAtoms) {
       const Point d = AsRead(store, desk.measure.PickAtomD);
       ++measures;
       if (wanted == 2) {
-        EXPECT_NEAR(shown, LengthOf(Minus(a, b)), 0.00501) << panel;
+        EXPECT_NEAR(shown, Apart(a, b), 0.00501) << panel;
       } else if (wanted == 3) {
-        EXPECT_NEAR(shown, DegreesBetween(Minus(a, b), Minus(c, b)), 0.01) << panel;
+        EXPECT_NEAR(shown, AngleAt(a, b, c), 0.01) << panel;
       } else {
-        const double twist = TwistOf(a, b, c, d);
+        const double twist = std::abs(TorsionOf(a, b, c, d));
         EXPECT_NEAR(std::abs(shown), twist < 90 ? 180 - twist : twist, 0.01) << panel;
       }
     }

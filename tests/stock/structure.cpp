@@ -1,9 +1,7 @@
 #include "stock/structure.h"
 
 #include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
-#include <numbers>
 #include <sstream>
 
 #include "measure/angle.h"
@@ -69,11 +67,7 @@ double Structure::Angle(int a, int b, int c) {
 }
 
 double Structure::Torsion(int a, int b, int c, int d) const {
-  const Point axis = Minus(At(c), At(b));
-  const Point first = Cross(Minus(At(b), At(a)), axis);
-  const Point second = Cross(axis, Minus(At(d), At(c)));
-  return std::atan2(Dot(Cross(first, second), Unit(axis)), Dot(first, second)) * 180 /
-         std::numbers::pi;
+  return TorsionOf(At(a), At(b), At(c), At(d));
 }
 
 double Structure::ShownTorsion(int a, int b, int c, int d, int kind) {
@@ -87,8 +81,7 @@ double Structure::ShownTorsion(int a, int b, int c, int d, int kind) {
 }
 
 double Structure::Hand(int centre, int a, int b, int c) const {
-  const Point from = At(centre);
-  return Dot(Cross(Minus(At(a), from), Minus(At(b), from)), Minus(At(c), from));
+  return HandOf(At(centre), At(a), At(b), At(c));
 }
 
 std::vector<Pair> Structure::Bonds() const {
@@ -143,19 +136,6 @@ std::vector<AtomLine> Structure::Lines() {
   return lines;
 }
 
-Point Minus(const Point& a, const Point& b) { return {a.X - b.X, a.Y - b.Y, a.Z - b.Z}; }
-
-double Dot(const Point& a, const Point& b) { return a.X * b.X + a.Y * b.Y + a.Z * b.Z; }
-
-Point Cross(const Point& a, const Point& b) {
-  return {a.Y * b.Z - a.Z * b.Y, a.Z * b.X - a.X * b.Z, a.X * b.Y - a.Y * b.X};
-}
-
-Point Unit(const Point& a) {
-  const double length = std::sqrt(Dot(a, a));
-  return {a.X / length, a.Y / length, a.Z / length};
-}
-
 std::vector<std::string> WordsOf(std::string_view text) {
   std::istringstream stream{std::string(text)};
   std::vector<std::string> words;
@@ -164,25 +144,10 @@ std::vector<std::string> WordsOf(std::string_view text) {
 }
 
 double LargestDistanceFromPlane(const Structure& structure, const std::vector<int>& atoms) {
-  Point middle;
-  for (const int atom : atoms) {
-    const Point at = structure.At(atom);
-    const double share = 1.0 / static_cast<double>(atoms.size());
-    middle = {middle.X + at.X * share, middle.Y + at.Y * share, middle.Z + at.Z * share};
-  }
-  // The normal is that of the largest triangle with the middle.
-  Point normal;
-  for (const int a : atoms) {
-    for (const int b : atoms) {
-      const Point cross = Cross(Minus(structure.At(a), middle), Minus(structure.At(b), middle));
-      if (Dot(cross, cross) > Dot(normal, normal)) normal = cross;
-    }
-  }
-  double largest = 0;
-  for (const int atom : atoms) {
-    largest = std::max(largest, std::abs(Dot(Unit(normal), Minus(structure.At(atom), middle))));
-  }
-  return largest;
+  std::vector<Point> points;
+  points.reserve(atoms.size());
+  for (const int atom : atoms) points.push_back(structure.At(atom));
+  return FarthestFromPlane(points);
 }
 
 }  // namespace orvane

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desk_fixture.h"
+#include "stock_check/geometry.h"
 
 namespace orvane {
 
@@ -62,12 +63,6 @@ class Structure {
  private:
   DeskAtWork work_;
 };
-
-// Vectors for figures that no routine of the program gives.
-Point Minus(const Point& a, const Point& b);
-double Dot(const Point& a, const Point& b);
-Point Cross(const Point& a, const Point& b);
-Point Unit(const Point& a);
 
 // "a b c" to its words.
 std::vector<std::string> WordsOf(std::string_view text);

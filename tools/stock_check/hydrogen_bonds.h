@@ -1,0 +1,30 @@
+// Hydrogen bonds of a peptide chain by their energy, as W. Kabsch and C. Sander (1983) reckon it:
+// from the places of N, H, C and O, so with a look at the direction. The program itself asks for
+// names and a distance alone.
+#pragma once
+
+#include <vector>
+
+#include "stock_check/stock_row.h"
+
+namespace orvane::stock_check {
+
+struct PeptideBond {
+  int Nitrogen = 0, Oxygen = 0;  // places in the row's atoms
+  double Energy = 0;             // kcal/mol
+  double NitrogenToOxygen = 0;   // Angstrom
+  double HydrogenToOxygen = 0;
+  double AtHydrogen = 0;  // the angle N-H..O, degrees
+};
+
+inline constexpr double kBondEnergy = -0.5;  // kcal/mol: what lies below is a bond
+// In a stretched strand N also comes just below that with the O two residues before, 3.6 from the
+// hydrogen and at a right angle nearly. A bond brings them nearer.
+inline constexpr double kFarthestHydrogen = 2.5;  // Angstrom
+
+// A hydrogen of a peptide nitrogen: against the C=O before it. A residue at a cut end has none.
+std::vector<PeptideBond> BondsByEnergy(const StockRow& chain);
+// Pairs of the program's list whose nitrogen is at a cut end, so that no hydrogen can be placed.
+std::vector<AtomPair> ListedAtCutEnds(const StockRow& chain);
+
+}  // namespace orvane::stock_check
