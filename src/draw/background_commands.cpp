@@ -26,7 +26,7 @@ void SetPlain(Orvane_Desk& desk, Colour colour) {
 
 // One channel as it was typed. Above 255 is as bright as it gets.
 int Channel(const TextBox& box) {
-  const int value = StrictInt16(box.Text.Get());
+  const int value = RoundedInt16(box.Text.Get());
   if (value < 0) FailConversion(box.Text.Get());
   return std::min(value, 255);
 }

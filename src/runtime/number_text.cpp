@@ -16,10 +16,30 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
   return first == std::string_view::npos ? std::string_view() : text.substr(first);
 }
 
+std::string_view WithoutBlanks(std::string_view text) {
+  text = WithoutLeadingBlanks(text);
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
 // from_chars takes a minus but no plus.
 std::string_view WithoutPlus(std::string_view text) {
   if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
   return text;
+}
+
+// Of a number for which no double is near enough: whether it is too small, and not too large. The
+// power of ten at which its first digit stands tells.
+bool IsTooSmall(std::string_view number) {
+  const std::string_view digits = number.substr(0, number.find_first_of("eE"));
+  std::string_view exponent = number.substr(std::min(digits.size() + 1, number.size()));
+  if (exponent.starts_with('+')) exponent.remove_prefix(1);
+  long long power = 0;
+  const auto [end, error] =
+      std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
+  // No text has digits enough to make up for such an exponent.
+  if (error == std::errc::result_out_of_range) return exponent.starts_with('-');
+  const auto point = static_cast<long long>(std::min(digits.find('.'), digits.size()));
+  return power + point < static_cast<long long>(digits.find_first_of("123456789"));
 }
 
 // to_chars and not the printf family, which would take a decimal comma from the locale.
@@ -40,13 +60,20 @@ double LenientNumber(std::string_view text) {
 }
 
 Int16 StrictInt16(std::string_view text) {
-  std::string_view number = WithoutLeadingBlanks(text);
-  number = number.substr(0, number.find_last_not_of(' ') + 1);
-  number = WithoutPlus(number);
+  const std::string_view number = WithoutPlus(WithoutBlanks(text));
+  std::int16_t value = 0;
+  const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (error != std::errc() || end != number.data() + number.size()) FailConversion(text);
+  return value;
+}
+
+Int16 RoundedInt16(std::string_view text) {
+  const std::string_view number = WithoutPlus(WithoutBlanks(text));
   double value = 0.0;
   const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
-  const bool whole_text_read = !number.empty() && end == number.data() + number.size();
-  if (error != std::errc() || !whole_text_read || !std::isfinite(value)) FailConversion(text);
+  if (end != number.data() + number.size()) FailConversion(text);
+  if (error == std::errc::result_out_of_range && IsTooSmall(number)) return 0;
+  if (error != std::errc() || !std::isfinite(value)) FailConversion(text);
   // Named by its text, which the user knows; 32767.5 would round to the even neighbour above.
   if (value < -32768.5 || value >= 32767.5) FailConversion(text);
   return RoundToInt16(value);

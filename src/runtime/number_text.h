@@ -12,9 +12,13 @@ namespace orvane {
 // part of a number ends it, and a text that begins with none gives 0.
 double LenientNumber(std::string_view text);
 
+// The whole text as an integer: blanks at both ends, one sign and digits. Anything else, or a value
+// outside 16 bits, fails.
+Int16 StrictInt16(std::string_view text);
+
 // The whole text as a number: blanks at both ends, a sign, digits, decimals and an exponent are
 // allowed; rounded half to even. Anything else, or a value outside 16 bits, fails.
-Int16 StrictInt16(std::string_view text);
+Int16 RoundedInt16(std::string_view text);
 
 // A value narrowed to 32 bits, written with seven significant digits and no exponent; zeros at its
 // end are kept, so that a text cut to a field is never too short for it.

@@ -105,12 +105,24 @@ TEST(Loader, ACoordinateEndsAtTheFirstCharacterThatIsNoPartOfANumber) {
   EXPECT_EQ(work.desk.molecule.AtomZ[1], 0.0);
 }
 
-TEST(Loader, AResidueNumberThatIsNoNumberEndsTheLoad) {
+TEST(Loader, AResidueNumberIsBlanksASignAndDigits) {
   DeskAtWork work;
-  for (const char* field : {"  1A", "    ", "1 2 "}) {
+  const std::pair<const char*, int> rows[] = {{"   7", 7},    {"7   ", 7}, {" 12 ", 12},
+                                              {"-345", -345}, {"  +8", 8}, {"0012", 12}};
+  for (const auto& [field, number] : rows) {
     std::string text = ChainOf(2);
     text.replace(22, 4, field);
-    EXPECT_NE(LoadFails(work.desk, text), "") << field;
+    Load(work.desk, text);
+    EXPECT_EQ(work.desk.molecule.ResSeq[1], number) << field;
+  }
+}
+
+TEST(Loader, AResidueNumberThatIsNoIntegerEndsTheLoad) {
+  DeskAtWork work;
+  for (const std::string field : {"  1A", "    ", "1 2 ", " 1.5", "1e1 ", "12.5", " 1. ", "- 1 "}) {
+    std::string text = ChainOf(2);
+    text.replace(22, 4, field);
+    EXPECT_EQ(LoadFails(work.desk, text), "\"" + field + "\" is not a number that fits here");
   }
 }
 

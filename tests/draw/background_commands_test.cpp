@@ -146,7 +146,7 @@ struct Typed {
 TEST_F(BackgroundCommandsTest, WhatIsANumberIsTakenRoundedAndCutAt255) {
   constexpr Typed kRows[] = {
       {"0", 0},     {" 17 ", 17}, {"+5", 5},     {"2.5", 2},     {"3.5", 4},  {"1e2", 100},
-      {"255", 255}, {"256", 255}, {"1000", 255}, {"32767", 255}, {"-0.4", 0},
+      {"255", 255}, {"256", 255}, {"1000", 255}, {"32767", 255}, {"-0.4", 0}, {"1e-400", 0},
   };
   for (const Typed& row : kRows) {
     Mix(row.Text, "0", "0");
@@ -157,8 +157,8 @@ TEST_F(BackgroundCommandsTest, WhatIsANumberIsTakenRoundedAndCutAt255) {
 
 TEST_F(BackgroundCommandsTest, WhatIsNoNumberIsNamedAndTheColourStays) {
   desk.colours.BackgroundIndex = 1;
-  for (const char* text :
-       {"", " ", "red", "12x", "0x10", "1 2", "-1", "-32768", "-40000", "32768", "1e9", "1,5"}) {
+  for (const char* text : {"", " ", "red", "12x", "0x10", "1 2", "-1", "-32768", "-40000", "32768",
+                           "1e9", "1e400", "1,5"}) {
     main.Picture1.SetBackColor(Rgb(1, 2, 3));
     main.Picture1.Print("old");
     platform.Effects.clear();

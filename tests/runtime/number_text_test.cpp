@@ -24,32 +24,76 @@ TEST(LenientNumber, ATextThatBeginsWithNoNumberIs0) {
   }
 }
 
-TEST(StrictInt16, TakesBlanksSignDecimalsAndExponent) {
+TEST(StrictInt16, TakesBlanksOneSignAndDigits) {
   EXPECT_EQ(StrictInt16("   1"), 1);
   EXPECT_EQ(StrictInt16(" -12 "), -12);
   EXPECT_EQ(StrictInt16("+7"), 7);
-  EXPECT_EQ(StrictInt16("1e3"), 1000);
-  EXPECT_EQ(StrictInt16("12.25"), 12);
+  EXPECT_EQ(StrictInt16("-0"), 0);
+  EXPECT_EQ(StrictInt16("00012"), 12);
 }
 
-TEST(StrictInt16, AHalfGoesToTheEvenNeighbour) {
-  EXPECT_EQ(StrictInt16("2.5"), 2);
-  EXPECT_EQ(StrictInt16("3.5"), 4);
-  EXPECT_EQ(StrictInt16("-2.5"), -2);
-}
-
-TEST(StrictInt16, RefusesWhatIsNotANumberThroughout) {
+TEST(StrictInt16, RefusesWhatIsNoIntegerThroughout) {
   for (const char* text :
-       {"", "    ", "1A", "A1", "1 2", "1,5", "--1", "+-1", "0x10", "nan", "inf", "1e", "1.2.3"}) {
+       {"",  "    ", "1A",  "A1",  "1 2", "1,5",  "--1", "+-1", "-+1", "++1", "- 1", "-",
+        "+", "0x1",  "nan", "inf", "1.5", "12.0", "5.",  ".5",  "1e1", "1e",  "1\t", "1.2.3"}) {
     EXPECT_THROW(StrictInt16(text), Failure) << text;
   }
 }
 
 TEST(StrictInt16, RefusesWhatDoesNotFit) {
   EXPECT_EQ(StrictInt16("32767"), 32767);
+  EXPECT_EQ(StrictInt16("-32768"), -32768);
   EXPECT_THROW(StrictInt16("32768"), Failure);
   EXPECT_THROW(StrictInt16("-32769"), Failure);
-  EXPECT_THROW(StrictInt16("1e400"), Failure);
+  EXPECT_THROW(StrictInt16("100000000000000000000"), Failure);
+}
+
+TEST(RoundedInt16, TakesBlanksSignDecimalsAndExponent) {
+  EXPECT_EQ(RoundedInt16("   1"), 1);
+  EXPECT_EQ(RoundedInt16(" -12 "), -12);
+  EXPECT_EQ(RoundedInt16("+7"), 7);
+  EXPECT_EQ(RoundedInt16("1e3"), 1000);
+  EXPECT_EQ(RoundedInt16("12.25"), 12);
+}
+
+TEST(RoundedInt16, AHalfGoesToTheEvenNeighbour) {
+  EXPECT_EQ(RoundedInt16("2.5"), 2);
+  EXPECT_EQ(RoundedInt16("3.5"), 4);
+  EXPECT_EQ(RoundedInt16("-2.5"), -2);
+}
+
+TEST(RoundedInt16, RefusesWhatIsNotANumberThroughout) {
+  for (const char* text : {"", "    ", "1A", "A1", "1 2", "1,5", "--1", "+-1", "0x10", "nan", "inf",
+                           "1e", "1.2.3", "1e-400x", "1e-400 1"}) {
+    EXPECT_THROW(RoundedInt16(text), Failure) << text;
+  }
+}
+
+TEST(RoundedInt16, RefusesWhatDoesNotFit) {
+  EXPECT_EQ(RoundedInt16("32767"), 32767);
+  EXPECT_THROW(RoundedInt16("32768"), Failure);
+  EXPECT_THROW(RoundedInt16("-32769"), Failure);
+  EXPECT_THROW(RoundedInt16("1e400"), Failure);
+}
+
+// A double reaches from 4.9e-324 to 1.8e308.
+TEST(RoundedInt16, WhatIsTooSmallForADoubleIs0AndWhatIsTooLargeFails) {
+  const std::string zeros(400, '0');
+  for (const std::string& text :
+       {std::string("1e-400"), std::string(" -1E-400 "), std::string("+9.99e-325"),
+        std::string("12345.5e-400"), "0." + zeros + "1", "." + zeros + "1e+10",
+        std::string("1e-99999999999999999999"), "1" + zeros + "e-800"}) {
+    EXPECT_EQ(RoundedInt16(text), 0) << text;
+  }
+  for (const std::string& text :
+       {std::string("1e+400"), std::string("-1e400"), std::string("0.001e312"), "1" + zeros,
+        "1" + zeros + ".5", "." + zeros + "1e800", std::string("1e99999999999999999999")}) {
+    EXPECT_THROW(RoundedInt16(text), Failure) << text;
+  }
+  // With an exponent that makes up for its zeros each is a number like any other.
+  EXPECT_EQ(RoundedInt16("." + zeros + "7e401"), 7);
+  EXPECT_EQ(RoundedInt16("7" + zeros + "e-400"), 7);
+  EXPECT_EQ(RoundedInt16("0e400"), 0);
 }
 
 TEST(SingleText, HasSevenSignificantDigitsAndNoExponent) {
@@ -124,8 +168,10 @@ TEST(NumberText, ThePointIsTheSeparatorWhateverTheLocale) {
   const CommaLocale comma;
   EXPECT_EQ(LenientNumber("1.5"), 1.5);
   EXPECT_EQ(LenientNumber("1,5"), 1.0);
-  EXPECT_EQ(StrictInt16("2.0"), 2);
-  EXPECT_THROW(StrictInt16("2,0"), Failure);
+  EXPECT_EQ(RoundedInt16("2.0"), 2);
+  EXPECT_THROW(RoundedInt16("2,0"), Failure);
+  EXPECT_EQ(StrictInt16("1234"), 1234);
+  EXPECT_THROW(StrictInt16("1.234"), Failure);
   EXPECT_EQ(SingleText(1.5), "1.500000");
   EXPECT_EQ(TwoDecimals(1234.5), "1234.50");
 }
