@@ -75,3 +75,19 @@ build_preset() {
     exit 1
   fi
 }
+
+# Says of each test that left itself out why it did, from the report of a run of ctest.
+why_left_out() {
+  local name reason
+  while IFS=$'\t' read -r name reason; do
+    say "$name did not run: $reason"
+  done < <(awk '
+    /<testcase / { split($0, word, "\""); name = word[2]; out = last = ""; told = 0 }
+    /<skipped message="SKIP/ { out = name }
+    { sub(/.*<system-out>/, "") }
+    out == "" { next }
+    /<\/system-out>/ { printf "%s\t%s\n", out, last; out = ""; next }
+    told { last = $0; told = 0; kept = out; next }
+    / Skipped$/ { told = 1; next }  # the reason that a test of ours gives stands on the next line
+    NF && kept != out { last = $0 }' "$1")
+}

@@ -33,10 +33,15 @@ const QString kToggle = QAccessibleActionInterface::toggleAction();
 
 // Nothing is told where nobody listens. screen_reader.sh plays these tests on a screen whose bus
 // for readers is on, and lets none of them be skipped.
-bool AReaderListens() {
-  const bool expected = qEnvironmentVariableIsSet("QT_LINUX_ACCESSIBILITY_ALWAYS_ON");
-  return QTest::qWaitFor([] { return QAccessible::isActive(); }, expected ? 20000 : 0);
-}
+class AListeningReader : public testing::Test {
+ protected:
+  void SetUp() override {
+    const bool expected = qEnvironmentVariableIsSet("QT_LINUX_ACCESSIBILITY_ALWAYS_ON");
+    const bool listens =
+        QTest::qWaitFor([] { return QAccessible::isActive(); }, expected ? 20000 : 0);
+    if (!listens) GTEST_SKIP() << "nobody listens here";
+  }
+};
 
 // What readers are told while this lives.
 struct Told {
@@ -151,8 +156,7 @@ TEST(ScreenReader, ARowIsFoundUnderThePointer) {
   EXPECT_TRUE(list->rect().contains(list->child(3)->rect()));
 }
 
-TEST(ScreenReader, ChoosingARowIsAClickOnItAndIsTold) {
-  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
+TEST_F(AListeningReader, ChoosingARowIsAClickOnItAndIsTold) {
   WindowAtWork work;
   List& list = work.main.AA_Lst;
   Heard clicks(list, EventKind::Click);
@@ -172,8 +176,7 @@ TEST(ScreenReader, ChoosingARowIsAClickOnItAndIsTold) {
   EXPECT_EQ(Told::Count(QAccessible::Focus, NameOf(reader->child(2))), 1);
 }
 
-TEST(ScreenReader, TheKeyboardComingToAListLeadsOnToItsRow) {
-  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
+TEST_F(AListeningReader, TheKeyboardComingToAListLeadsOnToItsRow) {
   WindowAtWork work;
   SelectRow(work.desk, work.main.Pro_Lst, 1);
   work.WidgetOf(work.main.Bt3_Dts).setFocus();
@@ -208,8 +211,7 @@ TEST(ScreenReader, WhatIsDisabledCannotBeDone) {
   EXPECT_TRUE(reader->actionInterface()->actionNames().isEmpty());
 }
 
-TEST(ScreenReader, AToggleTellsItsStateWhenItTurns) {
-  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
+TEST_F(AListeningReader, AToggleTellsItsStateWhenItTurns) {
   WindowAtWork work;
   SelectRow(work.desk, work.main.AA_Lst, 2);
   QAccessibleInterface* reader = InterfaceOf(work.WidgetOf(work.main.Bt3_Label));
@@ -303,8 +305,7 @@ TEST(ScreenReader, ABoxForTypingIsReadAndTypedInto) {
   EXPECT_EQ(reader->textInterface()->text(0, 1), "0");
 }
 
-TEST(ScreenReader, TheResultIsAnnouncedWhenItChanges) {
-  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
+TEST_F(AListeningReader, TheResultIsAnnouncedWhenItChanges) {
   WindowAtWork work;
   QAccessibleInterface* reader = InterfaceOf(work.WidgetOf(work.main.P_Dst_Show));
   EXPECT_EQ(reader->role(), QAccessible::Notification);
@@ -343,8 +344,7 @@ TEST(ScreenReader, ThePictureSaysWhatItShowsAndWhereTheWalkStands) {
       picture->actionInterface()->keyBindingsForAction("Go to the next atom").contains("N"));
 }
 
-TEST(ScreenReader, EachStepOfTheWalkIsAnnounced) {
-  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
+TEST_F(AListeningReader, EachStepOfTheWalkIsAnnounced) {
   WindowAtWork work;
   QAccessibleInterface* picture = InterfaceOf(work.WidgetOf(work.main.Picture1));
   Told told;
@@ -365,8 +365,7 @@ TEST(ScreenReader, EachStepOfTheWalkIsAnnounced) {
   EXPECT_EQ(Told::Count(QAccessible::NameChanged, NameOf(picture)), 0);
 }
 
-TEST(ScreenReader, WhatThePictureShowsIsAnnouncedOnceItIsAnother) {
-  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
+TEST_F(AListeningReader, WhatThePictureShowsIsAnnouncedOnceItIsAnother) {
   WindowAtWork work;
   Told told;
   SelectRow(work.desk, work.main.AA_Lst, 2);
@@ -378,8 +377,7 @@ TEST(ScreenReader, WhatThePictureShowsIsAnnouncedOnceItIsAnother) {
 }
 
 // The names come one after the other by keys, so all of them are heard.
-TEST(ScreenReader, ANameThatComesUpOnTheMapIsAnnounced) {
-  if (!AReaderListens()) GTEST_SKIP() << "nobody listens here";
+TEST_F(AListeningReader, ANameThatComesUpOnTheMapIsAnnounced) {
   ProgramAtWork program;
   program.GoToTheDesk();
   SelectRow(program.desk, program.desk.main.Pro_Lst, 1);

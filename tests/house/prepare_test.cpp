@@ -147,5 +147,42 @@ TEST_F(Preparing, ReadsOneGroupOfTheListAtATime) {
   EXPECT_THAT(Said, Not(HasSubstr("#")));
 }
 
+// As ctest writes it: of one test by its exit code, of another by the words of its framework.
+TEST_F(Preparing, SaysWhyATestLeftItselfOut) {
+  Write("report.xml", R"xml(<testsuite name="(empty)" tests="4" skipped="2">
+	<testcase name="on_paper" classname="on_paper" time="0.01" status="notrun">
+		<skipped message="SKIP_RETURN_CODE=77"/>
+		<system-out>looking for a printer
+only root can run it
+</system-out>
+	</testcase>
+	<testcase name="Passes" classname="Passes" time="0.01" status="run">
+		<system-out>all is well
+</system-out>
+	</testcase>
+	<testcase name="Files.OnAFullDisk" classname="Files" time="0.01" status="notrun">
+		<skipped message="SKIP_REGULAR_EXPRESSION_MATCHED"/>
+		<system-out>[ RUN      ] Files.OnAFullDisk
+tests/files_test.cpp:250: Skipped
+only root can have a small disk
+
+[  SKIPPED ] Files.OnAFullDisk (3 ms)
+</system-out>
+	</testcase>
+	<testcase name="Fails" classname="Fails" time="0.01" status="fail">
+		<failure message=""/>
+		<system-out>nothing is well
+</system-out>
+	</testcase>
+</testsuite>
+)xml");
+
+  Play("why_left_out $MACHINE/report.xml");
+
+  EXPECT_EQ(Said,
+            "Orvane: on_paper did not run: only root can run it\n"
+            "Orvane: Files.OnAFullDisk did not run: only root can have a small disk\n");
+}
+
 }  // namespace
 }  // namespace orvane::house
