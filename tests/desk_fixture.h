@@ -6,13 +6,14 @@
 #include "desk/actions.h"
 #include "desk/orvane_desk.h"
 #include "fake_platform.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 
 struct DeskAtWork {
   FakePlatform platform;
   // The desk is megabytes large, so it lives on the heap.
-  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(platform);
+  std::unique_ptr<Orvane_Desk> owned = StartDesk(platform);
   Orvane_Desk& desk = *owned;
 
   DeskAtWork() { desk.main.Visible = true; }

@@ -4,7 +4,6 @@
 #include "draw/redraw_chain.h"
 #include "measure/distance.h"
 #include "measure/hydrogen_bonds.h"
-#include "reading/atom_walk.h"
 #include "runtime/arithmetic.h"
 #include "runtime/number_text.h"
 
@@ -59,7 +58,8 @@ void ReadRecords(Molecule& molecule) {
 }  // namespace
 
 void LoadMolecule(Orvane_Desk& desk) {
-  ForgetWalk(desk);  // a load that fails has put other atoms in its place, too
+  ++desk.molecule.Loads;
+  TellWatcher(desk.main.Picture1, Aspect::Walk);  // a walk over the atoms before is at its end
   OpenBox(desk.molecule);
   ReadRecords(desk.molecule);
   desk.main.Drive1.Visible = false;  // the file panel is never open during a load
@@ -95,13 +95,6 @@ void AppendBond(Molecule& molecule) {
   molecule.BondA[b] = molecule.AtomSerial[molecule.BondAtomA];
   molecule.BondB[b] = molecule.AtomSerial[molecule.BondAtomB];
   molecule.BondCount = b;
-}
-
-void AppendHBond(Molecule& molecule) {
-  const int h = molecule.HBondCount + 1;
-  molecule.HBondA[h] = molecule.AtomSerial[molecule.BondAtomA];
-  molecule.HBondB[h] = molecule.AtomSerial[molecule.BondAtomB];
-  molecule.HBondCount = h;
 }
 
 void FitBox(Molecule& molecule) {

@@ -17,9 +17,8 @@ void LoadMolecule(Orvane_Desk& desk);
 // Rebuilds the list of bonds from the as-read coordinates, so that it never depends on the view.
 void FindBonds(Orvane_Desk& desk);
 
-// Append the pair BondAtomA, BondAtomB.
+// Appends the pair BondAtomA, BondAtomB.
 void AppendBond(Molecule& molecule);
-void AppendHBond(Molecule& molecule);
 
 // Turns the box into the fit scale and the pivot; from here on MinX, MinY, MinZ hold its centre.
 // A box without extent fails.

@@ -1,11 +1,8 @@
 #include "core/selection.h"
 
-#include "core/loader.h"
 #include "view/spin.h"
 
 namespace orvane {
-namespace {
-
 void EndWithTheLastStructure(Orvane_Desk& desk) {
   ClearBondTables(desk.molecule);
   desk.main.Drive1.Visible = false;
@@ -31,24 +28,9 @@ void AwaitTheNext(Orvane_Desk& desk) {
   desk.molecule.MoleculeReady = 0;
 }
 
-}  // namespace
-
 void PrepareSelection(Orvane_Desk& desk) {
   EndWithTheLastStructure(desk);
   AwaitTheNext(desk);
-}
-
-void Bt_Blt_AA_Click(Orvane_Desk& desk) {
-  EndWithTheLastStructure(desk);
-  desk.main.Picture1.ResetSurface();  // sets MoleculeReady, which AwaitTheNext takes back
-  AwaitTheNext(desk);
-}
-
-void Bt_M_Ld_Click(Orvane_Desk& desk) {
-  desk.molecule.MoleculeReady = 1;
-  if (desk.selection.StockPending != 0) LoadMolecule(desk);
-  desk.selection.ListsShown = 0;
-  desk.main.Bt_M_Ld.Visible = false;
 }
 
 }  // namespace orvane

@@ -1,14 +1,8 @@
 #include "desk/orvane_desk.h"
 
-#include "shell/start_up.h"
-#include "shell/wiring.h"
-
 namespace orvane {
 
-Orvane_Desk::Orvane_Desk(Platform& outside) : platform(outside) {
-  WireControls(*this);
-  Orvane_Desk_Load(*this);
-}
+Orvane_Desk::Orvane_Desk(Platform& outside) : platform(outside) {}
 
 Control* Orvane_Desk::FindControl(std::string_view full_name) const {
   for (const Window* window : windows) {

@@ -4,29 +4,30 @@
 #include <vector>
 
 #include "controls/platform.h"
-#include "core/molecule.h"
-#include "core/selection_state.h"
-#include "draw/colours_state.h"
-#include "draw/drawing_state.h"
-#include "measure/measure_state.h"
-#include "output/print_page.h"
-#include "output/recording_state.h"
-#include "ramachandran/plot_window.h"
-#include "ramachandran/survey_state.h"
-#include "reading/walked_atom.h"
-#include "shell/information_windows.h"
-#include "shell/main_window.h"
-#include "shell/shell_state.h"
-#include "stereo/stereo_state.h"
-#include "stock/catalogue_state.h"
-#include "stock/generator_state.h"
-#include "view/view_state.h"
+#include "desk/catalogue.h"
+#include "desk/colours.h"
+#include "desk/drawing.h"
+#include "desk/generator.h"
+#include "desk/measure.h"
+#include "desk/molecule.h"
+#include "desk/recording.h"
+#include "desk/selection.h"
+#include "desk/shell.h"
+#include "desk/stereo.h"
+#include "desk/survey.h"
+#include "desk/view.h"
+#include "desk/walked_atom.h"
+#include "windows/information_windows.h"
+#include "windows/main_window.h"
+#include "windows/plot_window.h"
+#include "windows/print_page.h"
 
 namespace orvane {
 
 // Megabytes large: made once, on the heap, and never copied. There is no other state.
 struct Orvane_Desk {
-  // Wires the controls to their handlers and runs the start-up of the main window.
+  // Every field at its start value; no control answers yet. StartDesk of shell/start_up.h makes a
+  // desk that does.
   explicit Orvane_Desk(Platform& outside);
   Orvane_Desk(const Orvane_Desk&) = delete;
   Orvane_Desk& operator=(const Orvane_Desk&) = delete;

@@ -1,9 +1,9 @@
 #include "desktop/accessible_picture.h"
 
+#include "commands/desk_keys.h"
 #include "desktop/control_view.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
-#include "shell/picture_keys.h"
 
 namespace orvane {
 namespace {

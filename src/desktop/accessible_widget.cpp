@@ -9,7 +9,7 @@
 #include "desktop/flyout.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
-#include "reading/spoken_words.h"
+#include "narration/spoken_words.h"
 
 namespace orvane {
 namespace {

@@ -8,8 +8,8 @@
 #include "desktop/control_view.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
-#include "reading/atom_walk.h"
-#include "reading/spoken_words.h"
+#include "narration/atom_walk.h"
+#include "narration/spoken_words.h"
 
 namespace orvane {
 namespace {

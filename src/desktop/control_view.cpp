@@ -7,7 +7,7 @@
 #include "desktop/palette.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
-#include "reading/spoken_words.h"
+#include "narration/spoken_words.h"
 
 namespace orvane {
 namespace {

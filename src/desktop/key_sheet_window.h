@@ -7,7 +7,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "shell/key_sheet.h"
+#include "commands/key_sheet.h"
 
 namespace orvane {
 

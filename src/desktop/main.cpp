@@ -8,6 +8,7 @@
 #include "desktop/icon.h"
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
+#include "shell/start_up.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ int main(int count, char** words) {
   QGuiApplication::setDesktopFileName(QStringLiteral("orvane"));
 
   orvane::QtPlatform platform;
-  const auto desk = std::make_unique<orvane::Orvane_Desk>(platform);
+  const auto desk = orvane::StartDesk(platform);
   orvane::Skin skin(*desk, platform);
   skin.ShowWindows();
   QTimer::singleShot(kIconAfter, [] { QApplication::setWindowIcon(orvane::ProgramIcon()); });

@@ -8,13 +8,13 @@
 #include <QImageWriter>
 #include <QStandardPaths>
 
+#include "controls/surface.h"
 #include "desktop/control_view.h"
 #include "desktop/palette.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
-#include "draw/surface.h"
-#include "output/file_aside.h"
-#include "output/gif_file.h"
+#include "output/atomic_file.h"
+#include "output/picture_gif.h"
 #include "runtime/failure.h"
 #include "runtime/no_memory.h"
 

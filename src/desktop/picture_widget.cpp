@@ -6,12 +6,12 @@
 #include <QTimer>
 
 #include "controls/kinds.h"
+#include "controls/surface.h"
 #include "desk/actions.h"
 #include "desktop/palette.h"
 #include "desktop/plate.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
-#include "draw/surface.h"
 #include "runtime/failure.h"
 #include "runtime/no_memory.h"
 

@@ -6,7 +6,7 @@
 
 #include "desktop/control_view.h"
 #include "desktop/rest_tip.h"
-#include "draw/picture.h"
+#include "raster/picture.h"
 
 namespace orvane {
 

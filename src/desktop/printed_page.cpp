@@ -11,8 +11,8 @@
 #include "desktop/skin.h"
 #include "desktop/type.h"
 #include "desktop/window_widget.h"
-#include "output/print_page.h"
 #include "runtime/no_memory.h"
+#include "windows/print_page.h"
 
 namespace orvane {
 namespace {

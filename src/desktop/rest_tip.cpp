@@ -7,7 +7,7 @@
 
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
-#include "reading/rest_words.h"
+#include "narration/hover_words.h"
 
 namespace orvane {
 

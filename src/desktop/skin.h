@@ -16,7 +16,7 @@
 #include "desktop/qt_platform.h"
 #include "desktop/sight.h"
 #include "desktop/ticker.h"
-#include "draw/raster.h"
+#include "raster/raster.h"
 
 namespace orvane {
 

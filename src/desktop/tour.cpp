@@ -15,6 +15,7 @@
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 namespace {
@@ -57,7 +58,7 @@ int Tour(const QString& folder) {
     return 1;
   }
   QtPlatform platform;
-  const auto desk = std::make_unique<Orvane_Desk>(platform);
+  const auto desk = StartDesk(platform);
   Skin skin(*desk, platform);
   desk->front.Hide();
   desk->main.Show();

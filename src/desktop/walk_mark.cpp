@@ -6,7 +6,7 @@
 #include "desktop/palette.h"
 #include "desktop/type.h"
 #include "draw/elements.h"
-#include "reading/atom_walk.h"
+#include "narration/atom_walk.h"
 
 namespace orvane {
 namespace {

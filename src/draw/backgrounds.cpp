@@ -7,7 +7,7 @@
 #include <embedded/Background4.h>
 #include <embedded/Background5.h>
 
-#include "output/gif_file.h"
+#include "raster/gif_file.h"
 #include "runtime/failure.h"
 
 namespace orvane {

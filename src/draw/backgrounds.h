@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "draw/colours_state.h"
+#include "desk/colours.h"
 
 namespace orvane {
 

@@ -2,7 +2,6 @@
 
 #include <span>
 
-#include "core/loader.h"
 #include "measure/distance.h"
 
 namespace orvane {
@@ -50,6 +49,13 @@ Partner PartnerOf(const NameField& name, int nucleic_mode) {
 }
 
 }  // namespace
+
+void AppendHBond(Molecule& molecule) {
+  const int h = molecule.HBondCount + 1;
+  molecule.HBondA[h] = molecule.AtomSerial[molecule.BondAtomA];
+  molecule.HBondB[h] = molecule.AtomSerial[molecule.BondAtomB];
+  molecule.HBondCount = h;
+}
 
 void FindHydrogenBonds(Orvane_Desk& desk) {
   Molecule& molecule = desk.molecule;

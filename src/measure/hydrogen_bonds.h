@@ -10,4 +10,7 @@ namespace orvane {
 // PointA at the last atom and PointB at the last but one; a later turn takes its sense from them.
 void FindHydrogenBonds(Orvane_Desk& desk);
 
+// Appends the pair BondAtomA, BondAtomB.
+void AppendHBond(Molecule& molecule);
+
 }  // namespace orvane

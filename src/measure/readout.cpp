@@ -1,7 +1,6 @@
 #include "measure/readout.h"
 
 #include "runtime/number_text.h"
-#include "shell/panels.h"
 
 namespace orvane {
 
@@ -24,11 +23,6 @@ void ShowReadout(Orvane_Desk& desk, const Readout& readout) {
 void EmptyReadout(Orvane_Desk& desk) {
   auto& caption = desk.main.P_Dst_Show.Caption;
   if (!caption.Get().empty()) caption = "";
-}
-
-void P_Dst_Show_Click(Orvane_Desk& desk) {
-  HidePanels(desk);
-  EmptyReadout(desk);
 }
 
 }  // namespace orvane

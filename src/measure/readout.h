@@ -19,7 +19,4 @@ void ShowReadout(Orvane_Desk& desk, const Readout& readout);
 
 void EmptyReadout(Orvane_Desk& desk);
 
-// Click on the panel.
-void P_Dst_Show_Click(Orvane_Desk& desk);
-
 }  // namespace orvane

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "desk/actions.h"
-#include "ramachandran/hover.h"
+#include "ramachandran/map_names.h"
 
 namespace orvane {
 namespace {

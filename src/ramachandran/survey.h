@@ -16,11 +16,4 @@ bool IsSurveyed(const Molecule& molecule, int atom);
 // Leaves PointA to PointD and PickAtomD changed.
 void TorsionSurvey(Orvane_Desk& desk);
 
-// Opens the plot window over fresh pictures and surveys what is in the store, loaded or not. The
-// plot window is the subject of printing from here on.
-void ShowRamachandran(Orvane_Desk& desk);
-
-// Closed by its frame the plot window only hides, and can be shown again.
-void Ramachandran_Close(Orvane_Desk& desk);
-
 }  // namespace orvane

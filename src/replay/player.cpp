@@ -2,6 +2,7 @@
 
 #include "replay/actions_table.h"
 #include "replay/script_line.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 namespace {
@@ -47,7 +48,7 @@ void StartDesk(Player& player) {
   player.desk.reset();
   player.plot_lines.clear();
   player.platform.emplace(player.output);
-  player.desk = std::make_unique<Orvane_Desk>(*player.platform);
+  player.desk = StartDesk(*player.platform);
   player.output.Silent = false;
   ListenTo(player);
 }

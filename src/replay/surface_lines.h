@@ -1,7 +1,7 @@
 // The trace: a line for every call on the drawing surface, and for every mark on the plot.
 #pragma once
 
-#include "draw/surface.h"
+#include "controls/surface.h"
 #include "replay/output.h"
 
 namespace orvane {

@@ -2,9 +2,17 @@
 
 #include "runtime/arithmetic.h"
 #include "shell/front_frames.h"
+#include "shell/wiring.h"
 #include "stock/catalogue.h"
 
 namespace orvane {
+
+std::unique_ptr<Orvane_Desk> StartDesk(Platform& outside) {
+  auto desk = std::make_unique<Orvane_Desk>(outside);
+  WireControls(*desk);
+  Orvane_Desk_Load(*desk);
+  return desk;
+}
 
 void Orvane_Desk_Load(Orvane_Desk& desk) {
   desk.main.Hide();

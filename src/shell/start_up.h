@@ -1,11 +1,16 @@
-// The load of the main window: every start value of the desk, in order.
+// How a desk begins.
 #pragma once
+
+#include <memory>
 
 #include "desk/orvane_desk.h"
 
 namespace orvane {
 
-// Leaves the main window hidden.
+// A desk whose controls are bound to their handlers and whose main window is loaded.
+std::unique_ptr<Orvane_Desk> StartDesk(Platform& outside);
+
+// The load of the main window: every start value of the desk, in order. Leaves the window hidden.
 void Orvane_Desk_Load(Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -1,30 +1,26 @@
 #include "shell/wiring.h"
 
-#include "core/selection.h"
-#include "draw/background_commands.h"
-#include "draw/colours.h"
-#include "draw/draw_commands.h"
-#include "draw/labels.h"
-#include "draw/size_keys.h"
-#include "measure/hydrogen_bond_button.h"
-#include "measure/measure_buttons.h"
-#include "measure/readout.h"
-#include "output/export.h"
-#include "output/print.h"
-#include "output/recording.h"
-#include "ramachandran/hover.h"
-#include "ramachandran/survey.h"
-#include "shell/geometry.h"
-#include "shell/information.h"
-#include "shell/panels.h"
-#include "shell/pointer_shape.h"
-#include "shell/sound.h"
-#include "stereo/toggles.h"
-#include "stock/catalogue.h"
-#include "view/bars.h"
-#include "view/pointer.h"
-#include "view/reset.h"
-#include "view/spin.h"
+#include "commands/background_entries.h"
+#include "commands/bars.h"
+#include "commands/colour_panel.h"
+#include "commands/export.h"
+#include "commands/hydrogen_bond_button.h"
+#include "commands/information.h"
+#include "commands/label_button.h"
+#include "commands/lists.h"
+#include "commands/load_buttons.h"
+#include "commands/measure_buttons.h"
+#include "commands/music.h"
+#include "commands/plot_window.h"
+#include "commands/pointer.h"
+#include "commands/print.h"
+#include "commands/recording.h"
+#include "commands/reset.h"
+#include "commands/size_keys.h"
+#include "commands/spin.h"
+#include "commands/stereo_toggles.h"
+#include "commands/ways_of_drawing.h"
+#include "commands/window_events.h"
 
 namespace orvane {
 namespace {
@@ -36,13 +32,13 @@ using enum EventKind;
 constexpr Wire kWires[] = {
     // shell: panels and pointer
     {"Picture1",      Change,  Picture1_Change},
-    {"Picture1",      Click,   HidePanels},
-    {"Panel3D1",      Click,   HidePanels},
-    {"Panel3D2",      Click,   HidePanels},
-    {"Panel3D3",      Click,   HidePanels},
-    {"Panel3D4",      Click,   HidePanels},
-    {"Panel3D5",      Click,   HidePanels},
-    {"BMusic",        Click,   HidePanels},
+    {"Picture1",      Click,   HidePanels_Click},
+    {"Panel3D1",      Click,   HidePanels_Click},
+    {"Panel3D2",      Click,   HidePanels_Click},
+    {"Panel3D3",      Click,   HidePanels_Click},
+    {"Panel3D4",      Click,   HidePanels_Click},
+    {"Panel3D5",      Click,   HidePanels_Click},
+    {"BMusic",        Click,   HidePanels_Click},
     {"OpTs",          Click,   TopMenu_Click},
     {"DWn",           Click,   TopMenu_Click},
     {"Exp",           Click,   TopMenu_Click},

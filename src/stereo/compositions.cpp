@@ -2,8 +2,8 @@
 
 #include "draw/redraw_chain.h"
 #include "draw/trace_painter.h"
-#include "shell/swatches.h"
 #include "view/transform.h"
+#include "windows/swatches.h"
 
 namespace orvane {
 namespace {

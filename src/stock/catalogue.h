@@ -1,5 +1,4 @@
-// The four lists of stock structures: their rows, and the road from a click on a row to the
-// picture.
+// The rows of the four lists of stock structures, and the texts that are put together at start.
 #pragma once
 
 #include "desk/orvane_desk.h"
@@ -14,13 +13,5 @@ void FillAminoList(Orvane_Desk& desk);
 void FillProteinList(Orvane_Desk& desk);
 void FillNucleotideList(Orvane_Desk& desk);
 void FillDnaList(Orvane_Desk& desk);
-
-// A click on a row: the menus for this kind of structure, its text, load, Reset. The drawing mode
-// and the colours survive. Without a chosen row the key is empty and fits nothing: AA_Lst then
-// loads nothing, the others load the previous text again.
-void AA_Lst_Click(Orvane_Desk& desk);
-void Pro_Lst_Click(Orvane_Desk& desk);
-void Nuc_Lst_Click(Orvane_Desk& desk);
-void DNA_Lst_Click(Orvane_Desk& desk);
 
 }  // namespace orvane

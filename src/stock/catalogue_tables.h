@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "stock/catalogue_state.h"
+#include "desk/catalogue.h"
 #include "stock/stock_texts.h"
 
 namespace orvane::catalogue {

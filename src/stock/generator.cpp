@@ -7,7 +7,6 @@
 #include "core/selection.h"
 #include "runtime/arithmetic.h"
 #include "runtime/number_text.h"
-#include "view/reset.h"
 
 namespace orvane {
 namespace {
@@ -155,7 +154,7 @@ void PlaceAtom(Orvane_Desk& desk, double torsion, double angle, double length,
   AppendRecord(desk, name);
   desk.molecule.MoleculeReady = 1;
   LoadMolecule(desk);
-  Bt3_Reset_Click(desk);
+  desk.main.Bt3_Reset.Raise({.Kind = EventKind::Click});
 }
 
 std::vector<Placement> PlacementsOf(std::string_view key) {

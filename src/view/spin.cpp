@@ -1,45 +1,17 @@
 #include "view/spin.h"
 
-#include "output/recording.h"
-#include "shell/panels.h"
-#include "stereo/refresh_tail.h"
-#include "view/transform.h"
-
 namespace orvane {
-namespace {
+
+void StartSpin(Orvane_Desk& desk) {
+  desk.main.Timer1.Enabled = true;
+  desk.view.AutoRotateOn = 1;
+  desk.main.P_Auto_Rotate.Style = kSpinOnLook;
+}
 
 void StopSpin(Orvane_Desk& desk) {
   desk.main.Timer1.Enabled = false;
   desk.view.AutoRotateOn = 0;
   desk.main.P_Auto_Rotate.Style = kSpinOffLook;
 }
-
-}  // namespace
-
-void P_Auto_Rotate_Click(Orvane_Desk& desk) {
-  HidePanels(desk);
-  if (desk.molecule.MoleculeReady != 1) return desk.platform.Beep();
-  if (desk.view.AutoRotateOn == 1) return StopSpin(desk);
-
-  desk.main.Timer1.Enabled = true;
-  desk.view.AutoRotateOn = 1;
-  desk.main.P_Auto_Rotate.Style = kSpinOnLook;
-  // The change event gives SpinNow a value; a recording would else spin by 0 degrees.
-  if (desk.main.VScroll1.Value == 1 && desk.recording.GifRecording != 0) {
-    desk.main.VScroll1.SetValue(2);
-  }
-}
-
-void Rt_speed_Change(Orvane_Desk& desk) { desk.main.Timer1.Interval = desk.main.Rt_speed.Value; }
-
-void Timer1_Tick(Orvane_Desk& desk) {
-  desk.platform.LetEventsRun();
-  if (desk.view.AutoRotateOn != 1) return;
-  RecordTick(desk);
-  SpinStep(desk);
-  RefreshTail(desk);
-}
-
-void Timer1_Failed(Orvane_Desk& desk) { StopSpin(desk); }
 
 }  // namespace orvane

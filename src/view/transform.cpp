@@ -4,7 +4,6 @@
 
 #include "draw/redraw_chain.h"
 #include "measure/picks.h"
-#include "stereo/compositions.h"
 
 namespace orvane {
 namespace {
@@ -127,21 +126,6 @@ void ShiftAllY(Orvane_Desk& desk) {
   view.PanY += view.YShiftNow;
   RepaintPasses(desk);
   view.YShiftPrev = view.YShiftNow;
-}
-
-void ResetView(Orvane_Desk& desk) {
-  Molecule& molecule = desk.molecule;
-  for (int i = 1; i <= molecule.AtomCount; ++i) {
-    molecule.CurX[i] = molecule.AtomX[i];
-    molecule.CurY[i] = molecule.AtomY[i];
-    molecule.CurZ[i] = molecule.AtomZ[i];
-  }
-  desk.main.ZoomBar.SetValue(0);
-  desk.main.VScroll1.SetValue(1);
-  desk.main.X_TRANS.SetValue(0);
-  desk.main.Y_TRANS.SetValue(0);
-  RedrawView(desk);
-  if (desk.stereo.RedGreenOn == 1) ComposeRedGreen(desk);
 }
 
 }  // namespace orvane

@@ -36,8 +36,4 @@ void SpinStep(Orvane_Desk& desk);
 void ShiftAllX(Orvane_Desk& desk);
 void ShiftAllY(Orvane_Desk& desk);
 
-// The coordinates as read, and the four bars back. A bar that stood elsewhere runs its change
-// event: VScroll1 so gives the molecule one step of turn.
-void ResetView(Orvane_Desk& desk);
-
 }  // namespace orvane

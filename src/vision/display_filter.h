@@ -9,8 +9,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "desk/stereo.h"
 #include "runtime/colour.h"
-#include "stereo/stereo_state.h"
 #include "vision/eye.h"
 
 namespace orvane {

@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "output/gif_file.h"
+#include "output/picture_gif.h"
 #include "window_fixture.h"
 
 namespace orvane {

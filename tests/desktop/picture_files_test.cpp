@@ -9,8 +9,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "draw/raster.h"
-#include "output/gif_palette.h"
+#include "output/picture_gif.h"
+#include "raster/raster.h"
 #include "runtime/failure.h"
 #include "window_fixture.h"
 
@@ -31,10 +31,10 @@ QImage ReadBack(const QString& path) {
 }
 
 QImage OnThePalette(QImage image) {
-  GifColours colours;
+  GifColours colours(PicturePalette());
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
-      image.setPixel(x, y, GifPalette()[colours.IndexOf(image.pixel(x, y))]);
+      image.setPixel(x, y, PicturePalette().Words[colours.IndexOf(image.pixel(x, y))]);
     }
   }
   return image;

@@ -6,8 +6,8 @@
 
 #include <QPrinterInfo>
 
-#include "draw/raster.h"
-#include "output/print.h"
+#include "commands/print.h"
+#include "raster/raster.h"
 #include "window_fixture.h"
 
 namespace orvane {

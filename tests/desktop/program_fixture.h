@@ -1,13 +1,14 @@
 // All the windows as the program starts them, from the splash on.
 #pragma once
 
+#include "shell/start_up.h"
 #include "window_fixture.h"
 
 namespace orvane {
 
 struct ProgramAtWork {
   QuietPlatform platform;
-  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(platform);
+  std::unique_ptr<Orvane_Desk> owned = StartDesk(platform);
   Orvane_Desk& desk = *owned;
   Skin skin{desk, platform};
 

@@ -8,10 +8,10 @@
 #include "controls/spoken.h"
 #include "desktop/file_list_widget.h"
 #include "desktop/menu_strip.h"
+#include "narration/atom_walk.h"
+#include "narration/picture_words.h"
+#include "narration/spoken_words.h"
 #include "program_fixture.h"
-#include "reading/atom_walk.h"
-#include "reading/picture_words.h"
-#include "reading/spoken_words.h"
 
 namespace orvane {
 namespace {

@@ -11,6 +11,7 @@
 #include <QtEndian>
 
 #include "desktop/file_list_widget.h"
+#include "shell/start_up.h"
 #include "window_fixture.h"
 
 namespace orvane {
@@ -185,7 +186,7 @@ TEST(Sound, TheBoxOfAStockTuneThatIsNotThereReadsAsItAlwaysHas) {
   struct : QtPlatform {
     void EndProgram() override {}
   } platform;
-  const auto desk = std::make_unique<Orvane_Desk>(platform);
+  const auto desk = StartDesk(platform);
   QString title, text;
   QTimer::singleShot(50, [&] {
     auto* box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -13,6 +13,7 @@
 #include "desktop/control_view.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 
@@ -46,7 +47,7 @@ class QuietPlatform : public QtPlatform {
 
 struct WindowAtWork {
   QuietPlatform platform;
-  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(platform);
+  std::unique_ptr<Orvane_Desk> owned = StartDesk(platform);
   Orvane_Desk& desk = *owned;
   MainWindow& main = desk.main;
   Skin skin{desk, platform};

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "draw/picture.h"
+#include "raster/picture.h"
 
 namespace orvane {
 

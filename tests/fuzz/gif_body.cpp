@@ -1,5 +1,5 @@
 #include "fuzz/bodies.h"
-#include "output/gif_file.h"
+#include "output/picture_gif.h"
 
 namespace orvane {
 namespace {

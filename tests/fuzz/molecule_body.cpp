@@ -2,9 +2,9 @@
 
 #include "core/record.h"
 #include "desk_fixture.h"
-#include "draw/raster.h"
 #include "fuzz/bodies.h"
 #include "random_desk/always.h"
+#include "raster/raster.h"
 
 namespace orvane {
 namespace {

@@ -5,13 +5,13 @@
 #include <set>
 #include <sstream>
 
+#include "commands/key_sheet.h"
 #include "controls/kinds.h"
 #include "handbook/student.h"
 #include "house/source_tree.h"
-#include "reading/rest_words.h"
+#include "narration/hover_words.h"
 #include "replay/played.h"
-#include "shell/key_sheet.h"
-#include "shell/main_window_table.h"
+#include "windows/main_window_table.h"
 
 namespace orvane {
 namespace {

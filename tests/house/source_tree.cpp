@@ -98,8 +98,7 @@ std::vector<MapRow> Map() {
     if (cells.size() < kColumns || Quoted(cells[kRoom]).empty()) continue;
     const auto chief = Quoted(cells[kChief]);
     rows.push_back({Quoted(cells[kRoom]).front(), chief.empty() ? "" : chief.front(),
-                    Quoted(cells[kMayInclude]),
-                    cells[kMayInclude].find("every room") != std::string::npos});
+                    Quoted(cells[kMayInclude])});
   }
   return rows;
 }

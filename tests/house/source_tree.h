@@ -34,9 +34,8 @@ bool ProjectHas(std::string_view path);
 // A row of the table of folders in docs/architecture.md.
 struct MapRow {
   std::string Room;
-  std::string ChiefHeader;              // "core/molecule.h"; empty where a room has none
+  std::string ChiefHeader;              // "desk/molecule.h"; empty where a room has none
   std::vector<std::string> MayInclude;  // other rooms; its own goes without saying
-  bool EveryRoom = false;               // "every room": all but the skins
 };
 std::vector<MapRow> Map();
 

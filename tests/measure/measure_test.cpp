@@ -1,12 +1,12 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
+#include "commands/measure_buttons.h"
 #include "core/records.h"
 #include "desk_fixture.h"
 #include "draw/strokes_text.h"
 #include "measure/angle.h"
 #include "measure/distance.h"
-#include "measure/measure_buttons.h"
 #include "measure/picks.h"
 #include "measure/torsion.h"
 

@@ -7,11 +7,11 @@
 #include <optional>
 
 #include "desk/actions.h"
-#include "draw/raster.h"
 #include "memory/memory_that_runs_out.h"
-#include "output/file_aside.h"
-#include "output/gif_file.h"
+#include "output/atomic_file.h"
+#include "output/picture_gif.h"
 #include "random/failing_desk.h"
+#include "raster/raster.h"
 #include "runtime/failure.h"
 
 namespace orvane {

@@ -8,7 +8,7 @@
 
 #include "desk_fixture.h"
 #include "map_maker/map_maker.h"
-#include "ramachandran/hover.h"
+#include "ramachandran/map_names.h"
 
 namespace orvane {
 namespace {

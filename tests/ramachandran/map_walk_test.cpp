@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "desk_fixture.h"
-#include "ramachandran/hover.h"
+#include "ramachandran/map_names.h"
 
 namespace orvane {
 namespace {

@@ -8,12 +8,13 @@
 #include "random/every_command.h"
 #include "random/failing_platform.h"
 #include "random_desk/always.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 
 struct FailingDesk {
   FailingPlatform platform;
-  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(platform);
+  std::unique_ptr<Orvane_Desk> owned = StartDesk(platform);
   Orvane_Desk& desk = *owned;
   LastSeen last;
 

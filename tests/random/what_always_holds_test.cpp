@@ -1,7 +1,7 @@
 // Each check behind an action sees the damage that it is there for.
 #include <gtest/gtest.h>
 
-#include "draw/surface.h"
+#include "controls/surface.h"
 #include "random_desk/always.h"
 
 namespace orvane {
@@ -81,7 +81,8 @@ INSTANTIATE_TEST_SUITE_P(
                              }},
                       Damage{"TheAtomOfTheWalk", "the atom of the walk is 61",
                              [](Orvane_Desk& desk) {
-                               desk.walk.Number = desk.molecule.AtomCount + 1;
+                               desk.walk = {.Number = desk.molecule.AtomCount + 1,
+                                            .Load = desk.molecule.Loads};
                              }},
                       Damage{"ThePickOfNoWalk", "the pick of the walk is 1",
                              [](Orvane_Desk& desk) { desk.walk.Picked = 1; }},

@@ -21,9 +21,11 @@ std::string TextOf(const std::filesystem::path& file) {
 
 std::vector<std::filesystem::path> StateHeaders() {
   const std::filesystem::path source = std::filesystem::path(ORVANE_SOURCE_DIR) / "src";
-  std::vector<std::filesystem::path> headers{source / "core/molecule.h"};
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(source)) {
-    if (entry.path().filename().string().ends_with("_state.h")) headers.push_back(entry.path());
+  std::vector<std::filesystem::path> headers;
+  for (const auto& entry : std::filesystem::directory_iterator(source / "desk")) {
+    // Where the keyboard stands belongs to the reader; no script asks for it.
+    if (entry.path().filename() == "walked_atom.h") continue;
+    if (entry.path().extension() == ".h") headers.push_back(entry.path());
   }
   return headers;
 }

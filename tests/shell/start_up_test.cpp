@@ -11,7 +11,7 @@ namespace {
 // The desk as its start leaves it, with the main window still hidden.
 struct StartedDesk {
   FakePlatform platform;
-  std::unique_ptr<Orvane_Desk> desk = std::make_unique<Orvane_Desk>(platform);
+  std::unique_ptr<Orvane_Desk> desk = StartDesk(platform);
 };
 
 TEST(StartUp, ShowsTheSplashAndKeepsTheDeskHidden) {

@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
+#include "commands/plot_window.h"
 #include "draw/trace_painter.h"
-#include "ramachandran/survey.h"
 #include "stock/chain_checks.h"
 
 namespace orvane {

@@ -18,10 +18,6 @@ std::string TwoCorners() { return Record("N", 0, 0, 0) + Record("O", 2, 2, 2); }
 struct TransformTest : testing::Test, DeskAtWork {
   TransformTest() { Load(desk, TwoCorners()); }
 
-  double FromPivot(int i) const {
-    return std::hypot(desk.molecule.CurX[i] - 1, desk.molecule.CurY[i] - 1,
-                      desk.molecule.CurZ[i] - 1);
-  }
   // The axis points up along y.
   void PointUp() {
     desk.molecule.PointB = {0, 0, 0};
@@ -160,55 +156,6 @@ TEST_F(TransformTest, RowsAreSummedColumnOneFirst) {
   TurnPoint(desk.molecule, desk.view);
 
   EXPECT_EQ(desk.molecule.PointA.X, 1);
-}
-
-TEST_F(TransformTest, ResetCopiesTheCoordinatesAsReadBack) {
-  PointUp();
-  desk.view.TurnAngle = 33;
-  RotateAll(desk);
-  ResetView(desk);
-
-  EXPECT_EQ(desk.molecule.CurX[1], 0);
-  EXPECT_EQ(desk.molecule.CurZ[2], 2);
-  EXPECT_EQ(FromPivot(1), std::hypot(1, 1, 1));
-  EXPECT_EQ(desk.molecule.ScrX[2], 270);  // (2 - 1) x 0.5 x 180 + 180
-}
-
-TEST_F(TransformTest, AResetWithTheTurnBarElsewhereTurnsByOneStep) {
-  desk.main.VScroll1.Value = 10;
-  PointUp();
-  const Point before{desk.molecule.CurX[2], desk.molecule.CurY[2], desk.molecule.CurZ[2]};
-  ResetView(desk);
-
-  EXPECT_EQ(desk.main.VScroll1.Value, 1);
-  EXPECT_NEAR(desk.molecule.CurY[2], before.Y, 1e-12);
-  EXPECT_GT(std::abs(desk.molecule.CurX[2] - before.X), 0.1);
-  // Atom 2 stands root 2 from the axis; a step of 10 degrees moves it by a chord of 2 r sin 5.
-  EXPECT_NEAR(std::hypot(desk.molecule.CurX[2] - before.X, desk.molecule.CurZ[2] - before.Z),
-              2 * std::sqrt(2.0) * std::sin(5 * kPi / 180), 1e-12);
-}
-
-TEST_F(TransformTest, AResetWithTheTurnBarInPlaceTurnsNothing) {
-  PointUp();
-  ResetView(desk);
-
-  EXPECT_EQ(desk.molecule.CurX[2], 2);
-  EXPECT_EQ(desk.molecule.CurZ[2], 2);
-}
-
-TEST_F(TransformTest, AResetSetsTheBarsInOrder) {
-  desk.main.ZoomBar.Value = 5;
-  desk.main.VScroll1.Value = 9;
-  desk.main.X_TRANS.Value = 5;
-  desk.main.Y_TRANS.Value = 5;
-  std::vector<std::string> order;
-  for (ScrollBar* bar :
-       {&desk.main.Y_TRANS, &desk.main.X_TRANS, &desk.main.VScroll1, &desk.main.ZoomBar}) {
-    bar->Bind(EventKind::Change, [&order, bar](const Event&) { order.push_back(bar->Name); });
-  }
-  ResetView(desk);
-
-  EXPECT_EQ(order, (std::vector<std::string>{"ZoomBar", "VScroll1", "X_TRANS", "Y_TRANS"}));
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "draw/picture.h"
+#include "raster/picture.h"
 
 namespace orvane::backgrounds {
 

@@ -5,8 +5,8 @@
 #include <cstring>
 #include <vector>
 
-#include "draw/raster.h"
-#include "shell/main_window.h"
+#include "raster/raster.h"
+#include "windows/main_window.h"
 
 namespace orvane::bench {
 

@@ -8,12 +8,13 @@
 
 #include "canvas.h"
 #include "controls/platform.h"
+#include "controls/surface.h"
 #include "desk/actions.h"
-#include "draw/raster.h"
-#include "draw/surface.h"
 #include "heaviest_scene.h"
-#include "output/gif_file.h"
+#include "output/picture_gif.h"
+#include "raster/raster.h"
 #include "ratios.h"
+#include "shell/start_up.h"
 
 namespace orvane::bench {
 namespace {
@@ -79,7 +80,7 @@ class Camera : public Platform {
 // From the click to the tick that ends it: 18 frames, with 36 steps of the spin.
 void WholeRecording(benchmark::State& state) {
   Camera camera;
-  const auto desk = std::make_unique<Orvane_Desk>(camera);
+  const auto desk = StartDesk(camera);
   desk->main.Visible = true;
   SelectRow(*desk, desk->main.Pro_Lst, 1);
   for (auto unused : state) {

@@ -1,7 +1,7 @@
 // The picture of the heaviest desk, as a list of strokes.
 #pragma once
 
-#include "draw/picture.h"
+#include "raster/picture.h"
 
 namespace orvane::bench {
 

@@ -11,8 +11,8 @@
 #include "bench_desk.h"
 #include "core/record.h"
 #include "desk/actions.h"
-#include "draw/raster.h"
-#include "output/gif_file.h"
+#include "output/picture_gif.h"
+#include "raster/raster.h"
 
 namespace orvane::bench {
 namespace {

@@ -11,8 +11,8 @@
 #include <QPen>
 
 #include "bench_desk.h"
-#include "draw/raster.h"
 #include "heaviest_scene.h"
+#include "raster/raster.h"
 #include "ratios.h"
 
 namespace orvane::bench {

@@ -21,6 +21,7 @@
 #include "desktop/look_style.h"
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 namespace {
@@ -69,7 +70,7 @@ int PlayOneRound(int count, char** words) {
   DressApplication(application);
   steps.Done("type and style");
   QtPlatform platform;
-  const auto desk = std::make_unique<Orvane_Desk>(platform);
+  const auto desk = StartDesk(platform);
   steps.Done("desk");
   Skin skin(*desk, platform);
   skin.ShowWindows();

@@ -20,6 +20,7 @@
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 namespace {
@@ -93,7 +94,7 @@ int main(int count, char** words) {
   QApplication application(count, words);
   DressApplication(application);
   QtPlatform platform;
-  const auto desk = std::make_unique<Orvane_Desk>(platform);
+  const auto desk = StartDesk(platform);
   Skin skin(*desk, platform);
   desk->front.Hide();
   desk->main.Show();

@@ -9,8 +9,9 @@
 #include <vector>
 
 #include "desk/actions.h"
-#include "draw/raster.h"
 #include "no_platform/no_platform.h"
+#include "raster/raster.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 namespace {
@@ -92,7 +93,7 @@ int main(int count, char** words) {
     return 2;
   }
   NoPlatform platform;
-  const auto desk = std::make_unique<Orvane_Desk>(platform);
+  const auto desk = StartDesk(platform);
   desk->main.Show();
   const Sheet sheet = Compose(ThumbsOf(*desk));
   std::ofstream file(words[1], std::ios::binary);

@@ -8,8 +8,9 @@
 #include "draw/redraw_chain.h"
 #include "no_platform/no_platform.h"
 #include "shell/front_frames.h"
-#include "shell/information_windows.h"
+#include "shell/start_up.h"
 #include "view/transform.h"
+#include "windows/information_windows.h"
 
 namespace orvane {
 namespace {
@@ -33,7 +34,7 @@ constexpr float kLower = (447 - 360) / 2.0F;
 // What a desk draws of a scene, so many frames of it.
 std::vector<std::shared_ptr<const Picture>> Drawn(const Scene& scene, int count) {
   NoPlatform platform;
-  const auto owned = std::make_unique<Orvane_Desk>(platform);
+  const auto owned = StartDesk(platform);
   Orvane_Desk& desk = *owned;
   desk.main.Show();
   SelectRow(desk, desk.main.*scene.Rows, scene.Row);

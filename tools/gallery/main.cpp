@@ -17,6 +17,7 @@
 #include "desktop/qt_platform.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 namespace {
@@ -73,7 +74,7 @@ constexpr Named kMaps[] = {
 // A desk of its own for every picture, so that no view stands in the way of the next.
 struct Visit {
   QtPlatform platform;
-  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(platform);
+  std::unique_ptr<Orvane_Desk> owned = StartDesk(platform);
   Orvane_Desk& desk = *owned;
   Skin skin{desk, platform};
 

@@ -10,8 +10,9 @@
 #include <vector>
 
 #include "desk/actions.h"
-#include "draw/raster.h"
 #include "no_platform/no_platform.h"
+#include "raster/raster.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 namespace {
@@ -62,7 +63,7 @@ void SetUp(Orvane_Desk& desk) {
 
 int Spin(long ticks) {
   NothingPending platform;
-  const auto owned = std::make_unique<Orvane_Desk>(platform);
+  const auto owned = StartDesk(platform);
   Orvane_Desk& desk = *owned;
   SetUp(desk);
   if (desk.view.AutoRotateOn != 1 || desk.main.Timer1.Interval != 1) return 1;

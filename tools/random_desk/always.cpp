@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "draw/surface.h"
-#include "output/recording.h"
+#include "commands/recording.h"
+#include "controls/surface.h"
 #include "random_desk/digest.h"
 #include "random_desk/looks.h"
 #include "random_desk/numbers_of_atoms.h"

@@ -1,6 +1,6 @@
 #include "random_desk/kept_pictures.h"
 
-#include "draw/surface.h"
+#include "controls/surface.h"
 #include "random_desk/digest.h"
 
 namespace orvane {

@@ -5,7 +5,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "draw/surface.h"
+#include "controls/surface.h"
 
 namespace orvane {
 namespace {

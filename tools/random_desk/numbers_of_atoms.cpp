@@ -15,11 +15,13 @@ std::string OutsideBounds(const Orvane_Desk& desk, int atoms) {
       std::tie(desk.molecule, desk.walk, desk.measure, desk.survey, desk.drawing);
   // Every load sets the second of a pair to 2, however few atoms there are. A survey, a third or
   // fourth pick and the marks of the planes outlive the structure in which they were made.
+  // A walk that began at another structure keeps its number and stands on none.
+  const int walked = walk.Load == molecule.Loads ? atoms : kMostAtoms;
   // clang-format off
   const Bounds rows[] = {
-      {"the atom of the walk",    walk.Number,              atoms},
-      {"the pick of the walk",    walk.Picked,              walk.Number == 0 ? 0 : atoms},
-      {"the count of the walk",   walk.Taken,               walk.Number == 0 ? 0 : atoms},
+      {"the atom of the walk",    walk.Number,              walked},
+      {"the pick of the walk",    walk.Picked,              walk.Number == 0 ? 0 : walked},
+      {"the count of the walk",   walk.Taken,               walk.Number == 0 ? 0 : walked},
       {"the order of the walk",   walk.Order,               walk.Number == 0 ? 0 : 4},
       {"BondAtomA",               molecule.BondAtomA,       atoms},
       {"BondAtomB",               molecule.BondAtomB,       std::max(atoms, 2)},

@@ -3,10 +3,10 @@
 #include <cmath>
 
 #include "controls/kinds.h"
+#include "controls/surface.h"
 #include "desk/actions.h"
-#include "draw/surface.h"
+#include "narration/atom_walk.h"
 #include "ramachandran/map_walk.h"
-#include "reading/atom_walk.h"
 #include "replay/script_line.h"
 
 namespace orvane {

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "draw/raster.h"
+#include "raster/raster.h"
 #include "replay/player.h"
 
 namespace orvane {

@@ -7,13 +7,13 @@
 #include "controls/kinds.h"
 #include "controls/scroll_bar.h"
 #include "controls/spoken.h"
+#include "controls/surface.h"
 #include "desktop/control_view.h"
 #include "desktop/menu_strip.h"
 #include "desktop/picture_widget.h"
 #include "desktop/row_list.h"
 #include "desktop/skin.h"
 #include "desktop/window_widget.h"
-#include "draw/surface.h"
 
 namespace orvane {
 namespace {

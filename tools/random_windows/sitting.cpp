@@ -13,6 +13,7 @@
 #include "random_windows/agreement.h"
 #include "random_windows/hands.h"
 #include "random_windows/timers.h"
+#include "shell/start_up.h"
 
 namespace orvane {
 namespace {
@@ -24,7 +25,7 @@ constexpr int kMostInOne = 300;  // events while one is under way; then what is 
 
 struct Table : QObject {
   OutsideAtRandom outside;
-  std::unique_ptr<Orvane_Desk> owned = std::make_unique<Orvane_Desk>(outside);
+  std::unique_ptr<Orvane_Desk> owned = StartDesk(outside);
   Orvane_Desk& desk = *owned;
   Skin skin{desk, outside};
   HeldTimers timers;

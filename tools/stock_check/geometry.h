@@ -5,7 +5,7 @@
 #include <array>
 #include <span>
 
-#include "core/molecule.h"
+#include "desk/molecule.h"
 
 namespace orvane {
 

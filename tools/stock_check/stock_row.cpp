@@ -5,6 +5,7 @@
 
 #include "desk/actions.h"
 #include "no_platform/no_platform.h"
+#include "shell/start_up.h"
 #include "stock_check/geometry.h"
 
 namespace orvane::stock_check {
@@ -70,7 +71,7 @@ std::vector<int> StockRow::Residues() const {
 
 std::vector<StockRow> StockRows() {
   NoPlatform platform;
-  const auto desk = std::make_unique<Orvane_Desk>(platform);
+  const auto desk = StartDesk(platform);
   desk->main.Show();
   std::vector<StockRow> rows;
   for (List* list :

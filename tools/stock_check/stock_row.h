@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/molecule.h"
+#include "desk/molecule.h"
 
 namespace orvane::stock_check {
 

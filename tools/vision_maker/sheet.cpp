@@ -8,9 +8,10 @@
 
 #include "core/loader.h"
 #include "desk/actions.h"
-#include "draw/raster.h"
 #include "draw/redraw_chain.h"
 #include "no_platform/no_platform.h"
+#include "raster/raster.h"
+#include "shell/start_up.h"
 #include "vision/display_filter.h"
 #include "vision/simulation.h"
 
@@ -39,7 +40,7 @@ std::string SevenAtoms() {
 
 Bitmap Seven() {
   NoPlatform platform;
-  const auto desk = std::make_unique<Orvane_Desk>(platform);
+  const auto desk = StartDesk(platform);
   desk->main.Show();
   desk->molecule.MolText = SevenAtoms();
   LoadMolecule(*desk);

@@ -1,7 +1,7 @@
 // The picture of docs/colour-vision.md: seven atoms, one of each element, as four rows of screens.
 #pragma once
 
-#include "draw/picture.h"
+#include "raster/picture.h"
 
 namespace orvane::vision {
 

@@ -1,0 +1,32 @@
+// The residue generator's memory: reference points of the next atom and where placed atoms are.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "desk/molecule.h"
+
+namespace orvane {
+
+struct PlacedAtom {
+  std::string_view Name;  // as in the residue table, without blanks
+  Point At;
+};
+
+struct Generator {
+  Point RefBonded;   // the new atom hangs on it
+  Point RefAngle;    // with RefBonded the axis along which the angle is laid off
+  Point RefTorsion;  // fixes the azimuth from which the torsion is counted
+  Point NewAtom;     // the result
+
+  Point PlaceOrigin;  // RefAngle before it is moved to the origin
+  double PlaceAlpha = 0, PlaceBeta = 0, PlaceGamma = 0;  // turns of one placement, radians
+
+  // The residue so far, at full precision: a record's cut coordinates never place another atom.
+  std::vector<PlacedAtom> Placed;
+
+  // Three picked points come here too and find no further reader.
+  Point PickedA, PickedB, PickedC;
+};
+
+}  // namespace orvane

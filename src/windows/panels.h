@@ -1,0 +1,12 @@
+// The floating panels' closing rule.
+#pragma once
+
+#include "windows/main_window.h"
+
+namespace orvane {
+
+// Closes the three floating panels. Nearly every handler begins with it: a handler that wants a
+// panel to stay open must not call it.
+void HidePanels(MainWindow& window);
+
+}  // namespace orvane

@@ -1,0 +1,149 @@
+#include "narration/map_words.h"
+
+#include <cmath>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <numbers>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "narration/chosen_row.h"
+
+namespace orvane {
+namespace {
+
+struct MapWordsTest : testing::Test, DeskAtWork {
+  MainWindow& main = desk.main;
+
+  void Survey(std::string_view row) {
+    Choose(*this, main.Pro_Lst, row);
+    Click(desk, main.RCDP);
+  }
+  std::string At(std::size_t area, float x, float y, float reach = 1) const {
+    return MapWords(desk, desk.plot.Area[area], x, y, reach);
+  }
+  std::vector<Stroke> Circles(std::size_t area) const {
+    return desk.plot.Area[area].Image()->Strokes;
+  }
+};
+
+struct Said {
+  std::string Residue;
+  double Phi = 0, Psi = 0;
+};
+
+double NumberOf(std::string text) {
+  const std::string minus = "−";
+  if (text.starts_with(minus)) text.replace(0, minus.size(), "-");
+  return std::stod(text);
+}
+
+std::vector<Said> Understood(const std::string& words) {
+  static const std::regex kLine("([A-Za-z]+ [0-9]+): phi (.*)°, psi (.*)°");
+  std::vector<Said> lines;
+  std::istringstream text(words);
+  for (std::string line; std::getline(text, line);) {
+    std::smatch part;
+    EXPECT_TRUE(std::regex_match(line, part, kLine)) << line;
+    if (!part.empty()) lines.push_back({part[1], NumberOf(part[2]), NumberOf(part[3])});
+  }
+  return lines;
+}
+
+// A torsion of the survey has its magnitude beyond a right angle: 180 less that of the atoms. The
+// torsion is measured here by the planes of its atoms.
+double Surveyed(const Molecule& m, int a, int b, int c, int d) {
+  const auto minus = [&](int to, int from) {
+    return std::array<double, 3>{m.AtomX[to] - m.AtomX[from], m.AtomY[to] - m.AtomY[from],
+                                 m.AtomZ[to] - m.AtomZ[from]};
+  };
+  const auto cross = [](const auto& u, const auto& v) {
+    return std::array<double, 3>{u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2],
+                                 u[0] * v[1] - u[1] * v[0]};
+  };
+  const auto dot = [](const auto& u, const auto& v) {
+    return u[0] * v[0] + u[1] * v[1] + u[2] * v[2];
+  };
+  const auto first = cross(minus(b, a), minus(c, b)), second = cross(minus(c, b), minus(d, c));
+  const double true_one =
+      std::acos(dot(first, second) / std::sqrt(dot(first, first) * dot(second, second))) * 180 /
+      std::numbers::pi;
+  return std::max(true_one, 180 - true_one);
+}
+
+TEST_F(MapWordsTest, NothingIsToldBeforeASurvey) {
+  EXPECT_EQ(At(1, 70, 70, 1000), "");
+  Choose(*this, main.Pro_Lst, "Alfa");
+  EXPECT_EQ(At(1, 70, 70, 1000), "");
+}
+
+// Twelve residues of five atoms, the alpha carbon the second: row k is residue k + 1, whose alpha
+// carbon is atom 5 k + 2. Phi of the helix is negative and so is psi.
+TEST_F(MapWordsTest, EachCircleOfTheHelixTellsItsResidueAndItsTorsions) {
+  Survey("Alfa");
+  const auto circles = Circles(1);
+  ASSERT_EQ(circles.size(), 10U);
+  for (std::size_t k = 0; k < circles.size(); ++k) {
+    const int ca = 5 * (static_cast<int>(k) + 1) + 2;
+    const std::string residue = "Alanine " + std::to_string(k + 2);
+    bool told = false;
+    for (const Said& said : Understood(At(1, circles[k].X1, circles[k].Y1))) {
+      if (said.Residue != residue) continue;
+      told = true;
+      // The factor of the survey's degrees is 1.00002 too large: 0.003 of 180.
+      EXPECT_NEAR(said.Phi, -Surveyed(desk.molecule, ca - 4, ca - 1, ca, ca + 1), 0.06);
+      EXPECT_NEAR(said.Psi, -Surveyed(desk.molecule, ca - 1, ca, ca + 1, ca + 4), 0.06);
+    }
+    EXPECT_TRUE(told) << residue;
+  }
+}
+
+TEST_F(MapWordsTest, TheStrandHasPositivePsi) {
+  Survey("Beta");
+  const auto circles = Circles(0);
+  ASSERT_EQ(circles.size(), 4U);
+  const auto lines = Understood(At(0, circles[0].X1, circles[0].Y1));
+  ASSERT_FALSE(lines.empty());
+  EXPECT_LT(lines.front().Phi, -90);
+  EXPECT_GT(lines.front().Psi, 90);
+}
+
+// Residues of a sheet bear the names and numbers of their own chains, and each plotted one is told
+// at its own circle.
+TEST_F(MapWordsTest, EveryPlottedResidueOfASheetIsToldAtOneCircle) {
+  Survey("PBS");
+  std::set<std::string> residues;
+  for (std::size_t area = 0; area < 4; ++area) {
+    for (const Stroke& circle : Circles(area)) {
+      const auto lines = Understood(At(area, circle.X1, circle.Y1));
+      EXPECT_FALSE(lines.empty());
+      for (const Said& said : lines) residues.insert(said.Residue);
+    }
+  }
+  EXPECT_EQ(residues.size(), 18U);
+  EXPECT_TRUE(residues.contains("Valine 50"));
+  EXPECT_FALSE(residues.contains("Alanine 47"));  // the first has no torsion before it
+}
+
+TEST_F(MapWordsTest, OnlyCirclesWithinReachAreTold) {
+  Survey("Beta");
+  const Stroke circle = Circles(0)[0];
+  float leftmost = circle.X1;
+  for (const Stroke& other : Circles(0)) leftmost = std::min(leftmost, other.X1);
+  EXPECT_EQ(At(0, leftmost - 5, circle.Y1, 4), "");
+  EXPECT_NE(At(0, circle.X1 + 1, circle.Y1 + 1, 4), "");
+  EXPECT_EQ(At(1, circle.X1, circle.Y1, 4), "");  // another area
+}
+
+TEST_F(MapWordsTest, AskingChangesNothingOnTheMap) {
+  Survey("Alfa");
+  const auto before = Circles(1);
+  const double row = desk.survey.PhiList[1];
+  At(1, before[0].X1, before[0].Y1);
+  EXPECT_EQ(Circles(1), before);
+  EXPECT_EQ(desk.survey.PhiList[1], row);
+}
+
+}  // namespace
+}  // namespace orvane
