@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-// Thrown only by the routines below and caught only where an event is dispatched (desk/dispatch.h):
+// Thrown only by the routines below and caught only where an event is dispatched (desk/actions.h):
 // the operation ends there, what it had done so far stays done, and the user reads `what()`, which
 // is a plain clause without a full stop ("a number was divided by zero").
 class Failure : public std::runtime_error {

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <regex>
+#include <set>
 
 #include "house/source_tree.h"
 
@@ -44,14 +45,34 @@ TEST(ThePages, PointToFilesThatExist) {
   }
 }
 
+// Each picture makes a checkout larger, so it stands on a page or goes.
+TEST(ThePictures, AreEachShownOnAPage) {
+  std::set<std::string> shown;
+  for (const std::string& page : Pages()) {
+    for (const std::string& target : Targets(page)) shown.insert(target);
+  }
+  const fs::path root = ORVANE_SOURCE_DIR;
+  int pictures = 0;
+  for (const auto& entry : fs::recursive_directory_iterator(root / "docs")) {
+    const std::string kind = entry.path().extension().string();
+    if (kind != ".png" && kind != ".svg" && kind != ".gif" && kind != ".jpg") continue;
+    ++pictures;
+    const std::string path = fs::relative(entry.path(), root).generic_string();
+    EXPECT_TRUE(shown.contains(path)) << "no page shows " << path;
+  }
+  EXPECT_GT(pictures, 10);
+}
+
 // A header or source that a page names in back quotes, "draw/surface.h".
 TEST(ThePages, NameOnlyFilesOfTheCodeThatExist) {
-  static const std::regex name("`(?:src/)?([a-z_]+/[a-z_0-9]+\\.(?:h|cpp))`");
+  static const std::regex name("`(?:src/)?([a-z_]+/[a-z_0-9/]+\\.(?:h|cpp))`");
   for (const std::string& page : Pages()) {
     const std::string text = ReadProjectFile(page);
     for (auto it = std::sregex_iterator(text.begin(), text.end(), name);
          it != std::sregex_iterator(); ++it) {
-      EXPECT_TRUE(ProjectHas("src/" + (*it)[1].str())) << page << " names " << (*it)[1];
+      const std::string file = (*it)[1];
+      const bool outside = file.starts_with("tests/") || file.starts_with("tools/");
+      EXPECT_TRUE(ProjectHas(outside ? file : "src/" + file)) << page << " names " << file;
     }
   }
 }
