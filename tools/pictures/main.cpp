@@ -1,4 +1,4 @@
-// orvane-handbook SCRIPT FOLDER: plays a script of orvane-replay on a desk with real windows, and
+// orvane-pictures SCRIPT FOLDER: plays a script of orvane-replay on a desk with real windows, and
 // leaves the pictures that its comments ask for. Prints the name of each picture.
 //
 //     # picture NAME            the main window, as FOLDER/NAME.png
@@ -69,7 +69,7 @@ std::string Keep(Visit& visit, std::string_view asked, const QDir& folder) {
 int PlayWithPictures(const char* script, const QDir& folder) {
   std::ifstream lines(script);
   if (!lines || !QDir().mkpath(folder.path())) {
-    std::fprintf(stderr, "orvane-handbook: no such script or folder\n");
+    std::fprintf(stderr, "orvane-pictures: no such script or folder\n");
     return 2;
   }
   std::optional<Visit> visit;
@@ -97,7 +97,7 @@ int PlayWithPictures(const char* script, const QDir& folder) {
 int main(int count, char** words) {
   orvane::Application application(count, words);
   if (count != 3) {
-    std::fprintf(stderr, "usage: orvane-handbook SCRIPT FOLDER\n");
+    std::fprintf(stderr, "usage: orvane-pictures SCRIPT FOLDER\n");
     return 2;
   }
   return orvane::PlayWithPictures(words[1], QDir(QString::fromLocal8Bit(words[2])));
