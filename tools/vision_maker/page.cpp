@@ -18,47 +18,48 @@ constexpr std::string_view kLetters = "CNOSPHR";
 constexpr std::string_view kHead =
     R"(# The colours, for eyes that see two of them
 
-In Europe about one man in twelve sees red and green alike, or nearly so. The key **F8** shows the picture to
-protan eyes (no cones for red), pressed again to deutan eyes (none for green), then to tritan eyes (none
-for blue), and then as it is. A tip over the picture says which.
+In Europe about one man in twelve sees red and green alike, or nearly so. The key **F8** changes the colours
+of the picture for protan eyes (no cones for red). Pressed again, it changes them for deutan eyes (none for
+green), then for tritan eyes (none for blue), and then it shows the picture as it is. A tip over the picture
+says which.
 
-The filter is a matter of the screen. No stored pixel, exported file, frame of a recording, print or
-replay hears of it, and it is off at every start. The swatches of the colour panel show what the picture
-will show. The red-green picture is left alone, since glasses look for just its two colours.
+The filter changes only the screen. It touches no stored pixel, exported file, frame of a recording, print or
+replay, and it is off at every start. The swatches of the colour panel show the same colours as the picture.
+The red-green picture is left alone, since coloured glasses need exactly its two colours.
 
 ![Seven balls joined in a row, one of each element, as described below](pictures/colour-vision.png)
 
-Seven atoms, C, N, O, S, P, H and R, painted by the program. A column is an eye: protan, deutan, tritan.
-From top to bottom: what the screen shows without the filter; the same as that eye sees it; what the
-screen shows with the filter; the same as that eye sees it. The first and the third row are what
-everybody else sees.
+Seven atoms, C, N, O, S, P, H and R, painted by the program. Each column is for one kind of eye: protan,
+deutan, tritan. From top to bottom: the screen without the filter; the same as that eye sees it; the screen
+with the filter; the same as that eye sees it. The first and the third row are what everybody else sees.
 
 ## What it does to a colour
 
-Each element has a colour of its own for each eye; the table `src/vision/display_filter.cpp` has them. A
-hue between two elements is mixed from the two. Greys, black and white stay. A shade, a tint or a smooth
-edge over any grey ground becomes the same shade, tint or edge of the new colour, so a ball is one colour
-up to its rim.
+Each element has its own colour for each kind of eye; the table in `src/vision/display_filter.cpp` lists
+them. A hue between those of two elements is mixed from the two. Greys, black and white do not change. A
+shade, a tint or a smooth edge over any grey background becomes the same shade, tint or edge of the new
+colour, so a ball has one colour up to its rim.
 
 )";
 
 constexpr std::string_view kMethod = R"(
 ## How it is measured
 
-What an eye sees is simulated after G. M. Machado, M. M. Oliveira and L. A. F. Fernandes, *A
+What an eye sees is simulated by the method of G. M. Machado, M. M. Oliveira and L. A. F. Fernandes, *A
 physiologically-based model for simulation of color vision deficiency*, IEEE Transactions on
 Visualization and Computer Graphics 15 (2009), 1291-1298, with the matrices for severity 1.0: no cones of
-that kind at all. The difference of two colours is CIEDE2000, from 0 for equal colours to 100 for black
-and white.
+that kind at all. The difference between two colours is CIEDE2000, from 0 for equal colours to 100 for
+black and white.
 
 )";
 
 constexpr std::string_view kCaution = R"(
-The numbers are of large even fields on a screen that keeps to sRGB. Small balls and thin lines differ
-less than their numbers say, and a projector in a bright room takes more away; that is why the threshold
-is twenty times the difference of about 1 that is just seen between fields side by side. The simulation
-is of a whole lack of one kind of cone, the hardest case of each; for tritan eyes its authors had the
-least to compare it with. No filter makes up for the atom names, which every eye reads.
+The numbers hold for large even fields on a screen that keeps to sRGB. Small balls and thin lines look less
+different than their numbers say, and a projector in a bright room weakens the difference further. That is
+why the threshold is twenty times the difference of about 1 that can just be seen between fields side by
+side. The simulation assumes that one kind of cone is missing altogether, which is the hardest case of each;
+for tritan eyes its authors had the least to compare it with. No filter replaces the atom names, which every
+eye can read.
 
 )";
 
@@ -116,8 +117,8 @@ std::string Least() {
     text += "| " + std::string(NameOf(eye)) + " | " + Number(least.Without) + " | " +
             Number(least.With) + " |\n";
   }
-  return "**With the filter no pair lies below " + Number(kLeastDifference) +
-         ".** The least difference of any pair:\n\n"
+  return "**With the filter no pair differs by less than " + Number(kLeastDifference) +
+         ".** The smallest difference of any pair:\n\n"
          "| Eye | Without | With |\n| --- | ---: | ---: |\n" +
          text;
 }
