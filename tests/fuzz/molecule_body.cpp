@@ -3,7 +3,7 @@
 #include "core/record.h"
 #include "desk_fixture.h"
 #include "fuzz/bodies.h"
-#include "random_desk/always.h"
+#include "random/desk/always.h"
 #include "raster/raster.h"
 
 namespace orvane {

@@ -1,7 +1,7 @@
 #include <sstream>
 
 #include "fuzz/bodies.h"
-#include "random_desk/always.h"
+#include "random/desk/always.h"
 #include "replay/player.h"
 
 namespace orvane {

@@ -2,7 +2,7 @@
 
 #include "desk_fixture.h"
 #include "fuzz/bodies.h"
-#include "random_desk/always.h"
+#include "random/desk/always.h"
 
 namespace orvane {
 namespace {

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
+#include "random/desk/always.h"
 #include "random/every_command.h"
 #include "random/failing_platform.h"
-#include "random_desk/always.h"
 #include "shell/start_up.h"
 
 namespace orvane {

@@ -6,10 +6,10 @@
 #include <gtest/gtest.h>
 #include <iostream>
 
-#include "random_desk/apart.h"
-#include "random_desk/life.h"
-#include "random_desk/moves.h"
-#include "random_desk/shrink.h"
+#include "random/desk/apart.h"
+#include "random/desk/life.h"
+#include "random/desk/moves.h"
+#include "random/desk/shrink.h"
 
 namespace orvane {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/surface.h"
-#include "random_desk/always.h"
+#include "random/desk/always.h"
 
 namespace orvane {
 namespace {

@@ -1,4 +1,4 @@
-#include "random_desk/trial.h"
+#include "random/desk/trial.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -7,8 +7,8 @@
 #include <sstream>
 #include <unistd.h>
 
-#include "random_desk/apart.h"
-#include "random_desk/life.h"
+#include "random/desk/apart.h"
+#include "random/desk/life.h"
 
 namespace orvane {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "random_desk/dice.h"
-#include "random_desk/session.h"
+#include "random/desk/dice.h"
+#include "random/desk/session.h"
 
 namespace orvane {
 

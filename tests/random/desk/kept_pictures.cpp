@@ -1,7 +1,7 @@
-#include "random_desk/kept_pictures.h"
+#include "random/desk/kept_pictures.h"
 
 #include "controls/surface.h"
-#include "random_desk/digest.h"
+#include "random/desk/digest.h"
 
 namespace orvane {
 namespace {

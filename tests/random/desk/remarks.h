@@ -17,7 +17,7 @@
 #include <string>
 #include <string_view>
 
-#include "random_desk/session.h"
+#include "random/desk/session.h"
 
 namespace orvane {
 

@@ -1,4 +1,4 @@
-#include "random_desk/looks.h"
+#include "random/desk/looks.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "random_desk/life.h"
+#include "random/desk/life.h"
 
-#include "random_desk/moves.h"
+#include "random/desk/moves.h"
 
 namespace orvane {
 namespace {

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "desktop/skin.h"
-#include "random_desk/dice.h"
-#include "random_windows/outside.h"
+#include "random/desk/dice.h"
+#include "random/windows/outside.h"
 
 namespace orvane {
 

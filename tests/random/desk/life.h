@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "random_desk/always.h"
-#include "random_desk/session.h"
+#include "random/desk/always.h"
+#include "random/desk/session.h"
 
 namespace orvane {
 

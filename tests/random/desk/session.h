@@ -1,5 +1,5 @@
 // A desk that is played by chance: lines of a replay script, and a few remarks of its own for what
-// no script can ask (random_desk/remarks.h).
+// no script can ask (random/desk/remarks.h).
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "random_desk/numbers_of_atoms.h"
+#include "random/desk/numbers_of_atoms.h"
 
 #include <algorithm>
 

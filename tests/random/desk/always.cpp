@@ -1,13 +1,13 @@
-#include "random_desk/always.h"
+#include "random/desk/always.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "commands/recording.h"
 #include "controls/surface.h"
-#include "random_desk/digest.h"
-#include "random_desk/looks.h"
-#include "random_desk/numbers_of_atoms.h"
+#include "random/desk/digest.h"
+#include "random/desk/looks.h"
+#include "random/desk/numbers_of_atoms.h"
 
 namespace orvane {
 namespace {

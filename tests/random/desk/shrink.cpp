@@ -1,4 +1,4 @@
-#include "random_desk/shrink.h"
+#include "random/desk/shrink.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "random_desk/remarks.h"
+#include "random/desk/remarks.h"
 
 #include <cmath>
 

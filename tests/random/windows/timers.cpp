@@ -1,4 +1,4 @@
-#include "random_windows/timers.h"
+#include "random/windows/timers.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>

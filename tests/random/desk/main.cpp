@@ -7,11 +7,11 @@
 #include <iterator>
 #include <string_view>
 
-#include "random_desk/apart.h"
-#include "random_desk/life.h"
-#include "random_desk/numbers.h"
-#include "random_desk/shrink.h"
-#include "random_desk/trial.h"
+#include "random/desk/apart.h"
+#include "random/desk/life.h"
+#include "random/desk/numbers.h"
+#include "random/desk/shrink.h"
+#include "random/desk/trial.h"
 
 namespace orvane {
 namespace {

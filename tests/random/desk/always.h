@@ -5,8 +5,8 @@
 #include <string>
 
 #include "desk/orvane_desk.h"
-#include "random_desk/kept_pictures.h"
-#include "random_desk/session.h"
+#include "random/desk/kept_pictures.h"
+#include "random/desk/session.h"
 
 namespace orvane {
 

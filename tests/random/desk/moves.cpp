@@ -1,4 +1,4 @@
-#include "random_desk/moves.h"
+#include "random/desk/moves.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "random_windows/strike.h"
+#include "random/windows/strike.h"
 
 #include <QTest>
 

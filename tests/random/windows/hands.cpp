@@ -1,4 +1,4 @@
-#include "random_windows/hands.h"
+#include "random/windows/hands.h"
 
 #include <algorithm>
 
@@ -13,7 +13,7 @@
 #include "desk/actions.h"
 #include "desktop/row_list.h"
 #include "desktop/window_widget.h"
-#include "random_windows/strike.h"
+#include "random/windows/strike.h"
 
 namespace orvane {
 namespace {

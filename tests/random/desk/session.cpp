@@ -1,8 +1,8 @@
-#include "random_desk/session.h"
+#include "random/desk/session.h"
 
 #include <utility>
 
-#include "random_desk/remarks.h"
+#include "random/desk/remarks.h"
 
 namespace orvane {
 namespace {

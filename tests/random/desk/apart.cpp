@@ -1,4 +1,4 @@
-#include "random_desk/apart.h"
+#include "random/desk/apart.h"
 
 #include <cerrno>
 #include <csignal>

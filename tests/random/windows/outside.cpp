@@ -1,4 +1,4 @@
-#include "random_windows/outside.h"
+#include "random/windows/outside.h"
 
 #include <utility>
 

@@ -10,9 +10,9 @@
 #include <QApplication>
 
 #include "desktop/application.h"
-#include "random_desk/apart.h"
-#include "random_desk/numbers.h"
-#include "random_windows/sitting.h"
+#include "random/desk/apart.h"
+#include "random/desk/numbers.h"
+#include "random/windows/sitting.h"
 
 namespace orvane {
 namespace {

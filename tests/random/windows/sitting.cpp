@@ -1,4 +1,4 @@
-#include "random_windows/sitting.h"
+#include "random/windows/sitting.h"
 
 #include <memory>
 #include <utility>
@@ -9,10 +9,10 @@
 
 #include "desk/actions.h"
 #include "desktop/window_widget.h"
-#include "random_desk/always.h"
-#include "random_windows/agreement.h"
-#include "random_windows/hands.h"
-#include "random_windows/timers.h"
+#include "random/desk/always.h"
+#include "random/windows/agreement.h"
+#include "random/windows/hands.h"
+#include "random/windows/timers.h"
 #include "shell/start_up.h"
 
 namespace orvane {

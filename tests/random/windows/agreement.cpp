@@ -1,4 +1,4 @@
-#include "random_windows/agreement.h"
+#include "random/windows/agreement.h"
 
 #include <QAbstractSlider>
 #include <QAction>
