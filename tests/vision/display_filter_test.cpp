@@ -1,5 +1,7 @@
 #include "vision/display_filter.h"
 
+#include <algorithm>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <vector>
 
