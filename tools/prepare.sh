@@ -14,7 +14,7 @@ packages_of() {
 need_packages() {
   local present missing=() package
   if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    say "this needs Debian 12: there is no apt-get here to install packages with."
+    say "this needs Debian 12 or 13: there is no apt-get here to install packages with."
     exit 1
   fi
   present=" $(dpkg-query -W -f '${db:Status-Status}:${Package} ' "$@" 2>/dev/null || true)"
@@ -54,11 +54,11 @@ quietly() {
   return "$status"
 }
 
-# Builds a preset. Configures only a tree that is new, was moved, or is older than the presets; from
-# then on Ninja sees for itself which CMake file has changed. The first build shows on a terminal how
-# far it is; all others print nothing but what went wrong.
+# Builds the named targets of a preset, or all of them. Configures only a tree that is new, was moved,
+# or is older than the presets; from then on Ninja sees for itself which CMake file has changed. The
+# first build shows on a terminal how far it is; all others print nothing but what went wrong.
 build_preset() {
-  local preset=$1 tree=$root/build/$1 fresh=() how=(quietly)
+  local preset=$1 tree=$root/build/$1 targets=("${@:2}") fresh=() how=(quietly)
   if [[ ! -f $tree/build.ninja || $root/CMakePresets.json -nt $tree/build.ninja ]] ||
     ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$tree/CMakeCache.txt"; then
     say "building the preset '$preset'; the first time this takes some minutes."
@@ -70,7 +70,7 @@ build_preset() {
       exit 1
     fi
   fi
-  if ! "${how[@]}" cmake --build "$tree"; then
+  if ! "${how[@]}" cmake --build "$tree" ${targets:+--target "${targets[@]}"}; then
     say "the build failed; the compiler says why just above."
     exit 1
   fi

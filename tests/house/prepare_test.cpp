@@ -14,6 +14,7 @@
 namespace orvane::house {
 namespace {
 
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
@@ -25,10 +26,7 @@ class Preparing : public ::testing::Test {
     std::string folder = (fs::temp_directory_path() / "orvane_prepare_XXXXXX").string();
     ASSERT_NE(::mkdtemp(folder.data()), nullptr);
     machine_ = folder;
-    for (const char* tool : {"awk", "mktemp", "cat", "rm", "env", "bash"}) {
-      const fs::path real = fs::exists(fs::path("/usr/bin") / tool) ? "/usr/bin" : "/bin";
-      fs::create_symlink(real / tool, machine_ / tool);
-    }
+    for (const char* tool : {"awk", "mktemp", "cat", "rm", "env", "bash"}) Links(tool);
     Has("apt-get", "echo \"apt-get $*\" >> $MACHINE/asked");
     Has("dpkg-query", "cat $MACHINE/installed");
     Write("asked", "");
@@ -45,6 +43,12 @@ class Preparing : public ::testing::Test {
     fs::permissions(machine_ / command,
                     fs::perms::owner_all | fs::perms::others_exec | fs::perms::others_read);
   }
+  void Links(const std::string& tool) {  // the real one
+    const fs::path real = fs::exists(fs::path("/usr/bin") / tool) ? "/usr/bin" : "/bin";
+    fs::create_symlink(real / tool, machine_ / tool);
+  }
+  void HasCMake() { Has("cmake", "echo \"cmake $*\" >> $MACHINE/asked"); }
+  std::string Place(const std::string& name) const { return machine_ / name; }
   void UserIs(int number) { Has("id", "echo " + std::to_string(number)); }
   void HasSudo() { Has("sudo", "echo sudo >> $MACHINE/asked; exec \"$@\""); }
 
@@ -182,6 +186,74 @@ only root can have a small disk
   EXPECT_EQ(Said,
             "Orvane: on_paper did not run: only root can run it\n"
             "Orvane: Files.OnAFullDisk did not run: only root can have a small disk\n");
+}
+
+TEST_F(Preparing, BuildsTheTargetsThatAreNamed) {
+  HasCMake();
+
+  Play("root=$MACHINE; build_preset release orvane probe");
+
+  EXPECT_THAT(Asked, HasSubstr("--build " + Place("build/release") + " --target orvane probe\n"));
+}
+
+TEST_F(Preparing, BuildsEverythingWhereNoTargetIsNamed) {
+  HasCMake();
+
+  Play("root=$MACHINE; build_preset dev");
+
+  EXPECT_THAT(Asked, HasSubstr("--build " + Place("build/dev") + "\n"));
+}
+
+TEST_F(Preparing, LeavesATestOutWhereItsJudgeIsOfAnotherRelease) {
+  Links("cmake");
+  Write("ask.cmake", "include(" ORVANE_SOURCE_DIR
+                     "/cmake/judge.cmake)\n"
+                     "orvane_judge(format_judged format clang-format 14)\n"
+                     "orvane_judge(tidy_judged tidy clang-tidy 14)\n"
+                     "message(\"format ${format_judged}, tidy ${tidy_judged}\")\n");
+  Has("clang-format", "echo Debian clang-format version 14.0.6");
+  Has("clang-tidy", "echo Debian LLVM version 19.1.7");
+
+  Play("cmake -DLEFT_OUT=$MACHINE/left_out -P $MACHINE/ask.cmake; echo; cat $MACHINE/left_out");
+
+  EXPECT_THAT(Said, HasSubstr("format ON, tidy OFF\n"));
+  EXPECT_THAT(Said, EndsWith("\nthe test 'tidy' is left out: clang-tidy 14 is the judge, "
+                             "not 19.1.7.\n"));
+}
+
+// `run` on that machine: a copy of it, with a program and a probe that answers as it is told.
+class Running : public Preparing {
+ protected:
+  void SetUp() override {
+    Preparing::SetUp();
+    HasCMake();
+    for (const char* tool : {"dirname", "timeout"}) Links(tool);
+    fs::create_directories(Place("tools"));
+    fs::create_directories(Place("build/release/bin"));
+    for (const char* name : {"run", "tools/prepare.sh", "dependencies.txt"}) {
+      Write(name, ReadProjectFile(name));
+    }
+    Has("dpkg-query", R"(shift 3; printf "installed:%s " "$@")");  // whatever is asked for
+    Has("build/release/bin/orvane", "echo the program >> $MACHINE/asked");
+    Has("Xvfb", "exit 1");
+  }
+};
+
+TEST_F(Running, BuildsWhatItStartsAndNothingElse) {
+  Has("build/release/bin/orvane-display-probe", "exit 0");
+
+  Play("source $MACHINE/run");
+
+  EXPECT_THAT(Asked, EndsWith("--target orvane orvane-display-probe\nthe program\n"));
+}
+
+TEST_F(Running, BuildsTheTourWhereThereIsNoDisplay) {
+  Has("build/release/bin/orvane-display-probe", "exit 1");
+
+  Play("source $MACHINE/run");
+
+  EXPECT_THAT(Asked, EndsWith("--target orvane-pictures\n"));
+  EXPECT_THAT(Asked, Not(HasSubstr("the program")));
 }
 
 }  // namespace
