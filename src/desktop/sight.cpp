@@ -14,8 +14,11 @@ constexpr int kTipStays = 3000;  // milliseconds
 void Sight::Next() {
   const std::size_t next = eye_.has_value() ? IndexOf(*eye_) + 1 : 0;
   eye_ = next < kEyes.size() ? std::optional(kEyes[next]) : std::nullopt;
-  filter_.reset();
-  if (eye_.has_value()) filter_.emplace(*eye_);
+  if (eye_.has_value()) {
+    filter_.emplace(*eye_);
+  } else {
+    filter_.reset();
+  }
 }
 
 QString Sight::Words() const {
