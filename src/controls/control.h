@@ -57,14 +57,14 @@ struct ControlRow {
   std::string_view Name{};
   ControlKind Kind = ControlKind::Panel;
   std::string_view Parent{};   // name of the container; empty: the window itself
-  std::string_view Caption{};  // letters behind "&" are mnemonics
+  std::string_view Caption{};  // a letter after "&" is a mnemonic
   Place At{};
   Look Style{};
   bool Visible = true;
   bool Enabled = true;
   std::string_view Tip{};     // one clause, verb first: what a click does
-  std::string_view Spoken{};  // name for a screen reader where the caption is none
-  SpokenRole Role{};          // what it is for a screen reader where the kind does not tell
+  std::string_view Spoken{};  // name for a screen reader where the caption gives none
+  SpokenRole Role{};          // what it is to a screen reader where the kind does not say
   int TabStop = 0;            // place in the tab order, from 1; 0 takes no focus
 };
 
@@ -100,7 +100,8 @@ class Control {
 
   // "X_Tag(1)", "Bt3_Reset", "Orvane_Front.Get_in"
   std::string FullName() const;
-  // Enabled and visible, and every container or menu above it, and its window showing.
+  // Whether it and every container or menu above it are enabled and visible, in a window that
+  // shows.
   bool IsOpenToUser() const;
 
  protected:
@@ -110,7 +111,7 @@ class Control {
   std::vector<std::pair<EventKind, std::function<void(const Event&)>>> handlers_;
 };
 
-// A toggle is drawn as pressed while its caption says on. It changes no state.
+// A toggle is drawn as pressed while its caption says on. This changes no state.
 bool CaptionSaysOn(std::string_view caption);
 
 }  // namespace orvane

@@ -1,5 +1,5 @@
-// The kinds of control that are little more than their state. Bars have a file of their own, and
-// the picture box is draw/surface.h.
+// The kinds of control that are little more than their state. The bars and the picture box have
+// files of their own: controls/scroll_bar.h and controls/surface.h.
 #pragma once
 
 #include <array>
@@ -13,7 +13,7 @@
 
 namespace orvane {
 
-struct Picture;  // draw/picture.h: what a surface showed at a moment, or a stored image
+struct Picture;  // raster/picture.h: what a surface showed at a moment, or a stored image
 
 class Panel : public Control {
   using Control::Control;
@@ -24,7 +24,7 @@ class Button : public Control {
 class Label : public Control {
   using Control::Control;
 };
-// Lines and plates: no event comes.
+// Lines and plates: they get no events.
 class Ornament : public Control {
   using Control::Control;
 };
@@ -48,8 +48,8 @@ class List : public Control {
   }
 };
 
-// One of the three lists of the music chooser. What stands in them is the platform's; the logic
-// keeps the folder and the pattern that are shown, and the file under the pointer.
+// One of the three lists of the music chooser. The platform fills them; the logic keeps the folder
+// and the pattern that are shown, and the chosen file.
 class FileList : public Control {
  public:
   using Control::Control;
@@ -81,7 +81,7 @@ class ImageBox : public Control {
   using Control::Control;
 
   const std::shared_ptr<const Picture>& Shown() const { return picture_; }
-  // Tells the watcher each time, also when the same picture is given again.
+  // Tells the watcher each time, even when the same picture is given again.
   void SetPicture(std::shared_ptr<const Picture> picture) {
     picture_ = std::move(picture);
     TellWatcher(*this, Aspect::Picture);

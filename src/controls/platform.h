@@ -1,5 +1,5 @@
-// What the logic asks of the outside world. Besides this, the controls and the surfaces' lists of
-// strokes nothing crosses between logic and skin.
+// What the logic asks of the outside world. Apart from this, the controls and the surfaces' lists
+// of strokes, nothing crosses between logic and skin.
 #pragma once
 
 #include <string>
@@ -15,7 +15,7 @@ struct SaveRequest {
   FileFormat Format = FileFormat::Bmp;
   std::string Name;           // file name without folder, with its suffix
   Control* Source = nullptr;  // Picture1, the panel P_Sterio as it shows, or the plot window
-  bool FirstFrame = false;    // a recording's first frame begins the file anew
+  bool FirstFrame = false;    // a recording's first frame replaces the file
 };
 
 class Platform {
@@ -31,14 +31,15 @@ class Platform {
   virtual std::string InputBox(std::string_view prompt, std::string_view title) = 0;
 
   virtual void LetEventsRun() = 0;     // pending events are handled inside this call
-  virtual void Wait(int seconds) = 0;  // lets events run until the clock has passed so many seconds
+  virtual void Wait(int seconds) = 0;  // lets events run until the clock is past that many seconds
   virtual void EndProgram() = 0;
 
-  // Pictures and paper. What cannot be done ends in FailPlatform with the reason in plain words.
+  // Pictures and paper. Whatever cannot be done ends in FailPlatform, with the reason in plain
+  // words.
   virtual void SavePicture(const SaveRequest& request) = 0;
   virtual bool PrintWindow(Window& page) = 0;  // false: it could not be printed
 
-  // The folder of the program, without a separator at its end.
+  // The folder of the program, without a trailing separator.
   virtual std::string ProgramFolder() = 0;
 
   // One sound at a time. SoundOpen gives an error number, 0 when the file is open.

@@ -65,7 +65,7 @@ bool LooksOn(const Control& control) {
 
 std::string AsSpoken(std::string_view caption) {
   std::string text;
-  bool blank = false, line = false;  // one came since the last letter
+  bool blank = false, line = false;  // seen since the last letter
   for (const char letter : caption) {
     if (letter == '&') continue;
     if (letter == ' ' || letter == '\n') {

@@ -1,5 +1,5 @@
-// What a screen reader says of a control: its name and what it is. Told by the control's row, its
-// kind and its state, so that every skin says the same.
+// What a screen reader says of a control: its name and what it is. Both come from the control's
+// row, kind and state, so every skin says the same.
 #pragma once
 
 #include <string>
@@ -8,16 +8,17 @@
 
 namespace orvane {
 
-// What a control is for somebody who does not see it. A row whose kind does not tell names it.
+// What a control is to somebody who does not see it. A row names its role where its kind does not
+// say.
 enum class SpokenRole : std::uint8_t {
   ByKind,
   Button,
   Toggle,  // on or off
-  Choice,  // one of a few, of which one is on
+  Choice,  // one of a few; one of them is on
   Slider,
   List,
   Dropdown,  // a closed list
-  Entry,     // a text to be typed
+  Entry,     // a text to type
   Picture,
   Text,
   Heading,
@@ -26,14 +27,14 @@ enum class SpokenRole : std::uint8_t {
   Result,  // read out by itself when its text changes
   MenuItem,
   Window,
-  Decoration,  // passed over
+  Decoration,  // skipped
 };
 
 SpokenRole RoleOf(const Control& control);
 
-// One line: the word of the row, else the caption without mnemonics, else the tip, else what the
-// control is. The caption of a row that has none is a text of the moment, and read while it is
-// there.
+// One line: the name in the row, else the caption without mnemonics, else the tip, else what the
+// control is. Where the row has no caption, a caption is a message of the moment and is read while
+// it is there.
 std::string SpokenName(const Control& control);
 
 // Whether a toggle or a choice looks on.

@@ -8,12 +8,12 @@
 namespace orvane {
 namespace {
 
-// The two halves of a split view and one more keep a snapshot each, and a list is put aside for
-// each of them until they drop it.
+// The two halves of a split view and one more holder keep a snapshot each. A list is set aside for
+// each snapshot until it is dropped.
 constexpr std::size_t kMostSpares = 4;
 constexpr std::size_t kFewestTextSlots = 256;
 
-// Takes a stroke back for whose text there was no memory.
+// Takes a stroke back if there was no memory for its text.
 struct NotWithoutText {
   std::vector<Stroke>& Strokes;
   bool Has = false;
@@ -126,8 +126,8 @@ void PictureBox::Wipe(std::shared_ptr<const Bitmap> backdrop) {
   text_slots_.assign(kFewestTextSlots, 0);
 }
 
-// The caller fills the stroke in where it lies: to copy one whole, just after its small fields were
-// written, takes longer than all the rest of a call.
+// The caller fills in the stroke where it lies: copying a whole one, just after its small fields
+// were written, takes longer than all the rest of a call.
 Stroke& PictureBox::Append(StrokeKind kind) {
   if (content_->Strokes.size() >= kMostStrokes) {
     Wipe(std::make_shared<Bitmap>(Raster().Paint(*content_)));

@@ -1,5 +1,6 @@
 // The drawing surface: the properties and calls of a picture box under their own names. A call
-// appends one stroke to the surface's list; no pixel is made before somebody looks (draw/raster.h).
+// appends one stroke to the surface's list; no pixel is made until somebody looks
+// (raster/raster.h).
 #pragma once
 
 #include <memory>
@@ -11,8 +12,8 @@
 
 namespace orvane {
 
-// A list that would grow beyond this is painted down into its backdrop first, so that drawing
-// without a wipe does not fill the memory.
+// A list that would grow beyond this is first painted into its backdrop, so that drawing without a
+// wipe does not fill the memory.
 inline constexpr std::size_t kMostStrokes = 65536;
 
 // Hears every call, in order: the replay's trace.
@@ -30,7 +31,7 @@ class PictureBox : public Control {
   PictureBox(Window& window, std::string_view name, int width, int height);
 
   // Pen and text state, set before a call that uses it.
-  int ScaleMode = 3;  // 3: pixels, and nothing else is set
+  int ScaleMode = 3;  // 3: pixels, and no other mode is set
   int DrawWidth = 1;
   int DrawStyle = 0;  // 0 solid, 2 dotted (width 1 only)
   int FillStyle = 0;  // 0 filled, 1 not
@@ -39,7 +40,7 @@ class PictureBox : public Control {
   double CurrentX = 0, CurrentY = 0;  // where the next Print begins
 
   // Everything drawn so far is wiped, and the change event of the picture runs. `background` is the
-  // index that a trace prints, -1 with no picture.
+  // index that a trace prints, -1 for no picture.
   void ResetSurface(std::shared_ptr<const Bitmap> picture, int background);
   void ResetSurface() { ResetSurface(nullptr, -1); }
   void Cls();  // wipes the strokes and keeps the picture; no change event
@@ -57,14 +58,14 @@ class PictureBox : public Control {
   int ScaleWidth() const;  // inner size in surface pixels
   int ScaleHeight() const;
 
-  // The content as it stands. Costs nothing; a later call leaves it as it is.
+  // The content as it stands. Costs nothing; no later call changes it.
   std::shared_ptr<const Picture> Image() const;
 
   SurfaceTrace* Trace = nullptr;
 
  private:
-  Picture& Own();  // the list, for writing: a copy of its own if a snapshot shares it
-  // An empty list over that backdrop, in memory that is there already.
+  Picture& Own();  // the list, for writing: copied first if a snapshot shares it
+  // Leaves an empty list over that backdrop, in memory that is there already.
   void Wipe(std::shared_ptr<const Bitmap> backdrop);
   Stroke& Append(StrokeKind kind);
   std::uint32_t IndexOf(std::string_view text);
@@ -72,10 +73,10 @@ class PictureBox : public Control {
   void TellDrawn();
 
   std::shared_ptr<Picture> content_;
-  std::vector<std::shared_ptr<Picture>> spares_;  // wiped while a snapshot shared them
-  std::shared_ptr<const Bitmap> picture_;         // as assigned, without what was painted down
-  std::vector<std::uint32_t> text_slots_;         // text index + 1 by hash, 0: free
-  mutable bool told_ = false;                     // the watcher knows, and nobody has looked since
+  std::vector<std::shared_ptr<Picture>> spares_;  // set aside while a snapshot shared them
+  std::shared_ptr<const Bitmap> picture_;  // as assigned, without the strokes painted into it
+  std::vector<std::uint32_t> text_slots_;  // text index + 1 by hash, 0: free
+  mutable bool told_ = false;              // the watcher was told, and nobody has looked since
 };
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-// A property of a control: it reads as its value, and setting it tells whoever watches the control.
+// A property of a control: it reads as its value, and setting it tells the watcher of the control.
 #pragma once
 
 #include <utility>
@@ -7,7 +7,7 @@ namespace orvane {
 
 class Control;
 
-// What of a control has changed.
+// What has changed in a control.
 enum class Aspect {
   Caption,
   Visible,
@@ -24,7 +24,7 @@ enum class Aspect {
   Front,    // the control was brought in front of its siblings
   Focus,    // the control asks for the keyboard
   Surface,  // a picture box was drawn on
-  Walk,     // the keyboard stands on another atom of a picture box, or has pressed on it
+  Walk,     // the walk by keys in a picture box moved, pressed on an atom, or ended
 };
 
 void TellWatcher(Control& control, Aspect aspect);  // controls/control.cpp

@@ -7,14 +7,14 @@
 
 namespace orvane {
 
-// Whoever shows the controls: hears of each change after it was made.
+// Shows the controls: it hears of each change after it was made.
 class ControlWatcher {
  public:
   virtual ~ControlWatcher() = default;
   virtual void Changed(Control& control, Aspect aspect) = 0;
 };
 
-// Pointer shapes of a window, numbered as they are set.
+// The pointer shapes of a window, by number.
 inline constexpr int kPointerDefault = 0;
 inline constexpr int kPointerCross = 2;
 inline constexpr int kPointerHourglass = 11;
@@ -23,8 +23,8 @@ enum class WindowState { Normal, Minimised, Maximised };
 
 class Window : public Control {
  public:
-  // The first row of the table is the window's own. `prefix` is what stands before the names of its
-  // controls from outside: empty for the main window, "Content." for another.
+  // The first row of the table is the window's own. `prefix` stands before the names of its
+  // controls when they are named from outside: empty for the main window, "Content." for another.
   Window(std::span<const ControlRow> table, std::string_view prefix);
 
   Watched<int, Aspect::Pointer> MousePointer;
@@ -32,7 +32,7 @@ class Window : public Control {
   bool WasShown = false;                    // at least once, by Show
   const std::span<const ControlRow> Table;
   const std::string Prefix;
-  std::vector<Control*> Controls;  // in the order in which they stack, lowest first
+  std::vector<Control*> Controls;  // in stacking order, lowest first
   ControlWatcher* Watcher = nullptr;
 
   void Show();  // shows it in front of the others

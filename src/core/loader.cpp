@@ -10,7 +10,7 @@
 namespace orvane {
 namespace {
 
-// Beyond every coordinate that eight columns with three decimals hold.
+// Beyond every coordinate that eight columns with three decimals can hold.
 constexpr double kBeyondAll = 10000;
 
 void OpenBox(Molecule& molecule) {
@@ -59,7 +59,7 @@ void ReadRecords(Molecule& molecule) {
 
 void LoadMolecule(Orvane_Desk& desk) {
   ++desk.molecule.Loads;
-  TellWatcher(desk.main.Picture1, Aspect::Walk);  // a walk over the atoms before is at its end
+  TellWatcher(desk.main.Picture1, Aspect::Walk);  // a walk over the previous atoms ends
   OpenBox(desk.molecule);
   ReadRecords(desk.molecule);
   desk.main.Drive1.Visible = false;  // the file panel is never open during a load

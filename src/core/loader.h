@@ -1,4 +1,4 @@
-// From the molecule text to the store and the first picture. The loader knows no chemistry:
+// Takes the molecule text to the store and the first picture. The loader knows no chemistry:
 // whatever lies within bonding distance is bonded.
 #pragma once
 
@@ -6,12 +6,12 @@
 
 namespace orvane {
 
-// Angstrom. Above every bond of the stock structures and below the distance of second neighbours;
-// the same for every pair of elements.
+// Angstrom. Longer than every bond of the stock structures and shorter than the distance of second
+// neighbours; the same for every pair of elements.
 inline constexpr float kBondLimit = 1.85F;
 
 // Parses MolText, finds the bonds and the hydrogen bonds, fits the box and draws. The view, the
-// modes and the colours stay as they are. MoleculeReady is the caller's. Leaves 2 in BondAtomB.
+// modes and the colours stay as they are. The caller sets MoleculeReady. Leaves 2 in BondAtomB.
 void LoadMolecule(Orvane_Desk& desk);
 
 // Rebuilds the list of bonds from the as-read coordinates, so that it never depends on the view.

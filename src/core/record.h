@@ -8,8 +8,9 @@
 
 namespace orvane {
 
-// The last column is a blank that parts the record from the next one; the last record of a text may
-// lack it. Whatever does not begin with "AT", the end of the text too, ends the text.
+// The last column is a blank that separates the record from the next one; the last record of a text
+// may lack it. The first record that does not begin with "AT" ends the structure, and so does the
+// end of the text.
 //
 //            1         2         3         4         5
 //   1234567890123456789012345678901234567890123456789012345
@@ -28,7 +29,7 @@ inline constexpr RecordField kXField = {31, 8};
 inline constexpr RecordField kYField = {39, 8};
 inline constexpr RecordField kZField = {47, 8};
 
-// The characters from a position, counted from 1, on: fewer or none where the text is too short.
+// The characters from a position on, counted from 1: fewer or none where the text is too short.
 constexpr std::string_view Mid(std::string_view text, int position, int width) {
   const auto from = std::min(static_cast<std::size_t>(position - 1), text.size());
   return text.substr(from, static_cast<std::size_t>(width));
@@ -38,9 +39,9 @@ constexpr std::string_view Cut(std::string_view record, RecordField field) {
 }
 constexpr bool IsAtomRecord(std::string_view record) { return Cut(record, kRecordType) == "AT"; }
 
-// Steps from record to record, numbered from 1; `position` is that of the record before. The
-// position is a 16-bit one, so going to the 597th record fails, and 596 are the most that a
-// structure can have. The end of the text is seen from the last record and gives an empty one.
+// Steps from record to record, numbered from 1; `position` is where the previous record begins. The
+// position has 16 bits, so the step to the 597th record fails, and no structure can have more than
+// 596. The end of the text is found from the last record and gives an empty one.
 constexpr std::string_view StepToRecord(std::string_view text, int number, Int16& position) {
   if (number > 1) {
     if (static_cast<std::size_t>(position) + kRecordWidth > text.size()) return {};

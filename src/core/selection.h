@@ -1,4 +1,4 @@
-// Between the wish for another structure and the picture: what every selection clears first.
+// What every selection clears before it loads another structure.
 #pragma once
 
 #include "desk/orvane_desk.h"

@@ -18,24 +18,24 @@ std::string WithoutMnemonic(std::string_view caption) {
 
 // What the user knows the control as: "Distance", "Enlarge".
 std::string CommandName(const Control& control) {
-  // A swatch has the name of its colour; the command is that of all of them.
+  // A swatch has the name of its colour; the command is the same for all of them.
   if (control.Row.Parent == "P_Clr_Holder") return CommandName(*control.Parent);
   if (!control.Row.Spoken.empty()) return std::string(control.Row.Spoken);
   const std::string caption = WithoutMnemonic(control.Caption.Get());
   const auto first = caption.find_first_not_of(' ');
   if (first != std::string::npos) return caption.substr(first);
   if (&control == &control.Owner) return control.Name;
-  // One without words goes by what holds it.
+  // A control without words is named by what holds it.
   return CommandName(control.Parent != nullptr ? *control.Parent : control.Owner);
 }
 
-// Said where there is no memory for more words.
+// Said where there is no memory to build a longer text.
 constexpr std::string_view kNothingLeft =
     "The command could not be finished: there is not enough memory.";
 
 enum class Outcome { Done, Failed, NoMemory };
 
-// What goes wrong while a failure is told of cannot be told in its turn.
+// What goes wrong while a failure is being reported cannot be reported as well.
 template <class Step>
 Outcome Try(Step step) {
   try {

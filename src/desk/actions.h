@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-// Forced skips the question whether the control is enabled and visible.
+// Forced skips the check that the control is enabled and visible.
 enum class Reach { AsUser, Forced };
 
 void Click(Orvane_Desk& desk, Control& control, Reach reach = Reach::AsUser);
@@ -17,7 +17,7 @@ void DoubleClick(Orvane_Desk& desk, Control& control, Reach reach = Reach::AsUse
 // Chooses row `row` of a list, -1 for none, and clicks it.
 void SelectRow(Orvane_Desk& desk, List& list, int row, Reach reach = Reach::AsUser);
 
-// The pointer over a control, in its own pixels; `button` of a move is the sum of those held.
+// The pointer over a control, in its own pixels; `button` of a move is the sum of the buttons held.
 void Press(Orvane_Desk& desk, Control& control, int button, float x, float y,
            Reach reach = Reach::AsUser);
 void Move(Orvane_Desk& desk, Control& control, int button, float x, float y,
@@ -35,17 +35,18 @@ void DropBar(Orvane_Desk& desk, ScrollBar& bar, Reach reach = Reach::AsUser);
 void TypeText(Orvane_Desk& desk, TextBox& box, std::string_view text, Reach reach = Reach::AsUser);
 void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach = Reach::AsUser);
 
-// The user or the screen has given a window another size; it is at `now`.
+// The user or the screen has given a window another size; `now` is its new place.
 void Resize(Orvane_Desk& desk, Window& window, Place now, WindowState state);
 
-// The user closes a window by its frame. What becomes of it is the handler's to say.
+// The user closes a window by its frame. The handler decides what becomes of it.
 void CloseWindow(Orvane_Desk& desk, Window& window);
 
-// The lists of the music chooser: a folder to be listed, and the file that is chosen in one.
+// The lists of the music chooser: a folder to list, and the file chosen in one.
 void OpenFolder(Orvane_Desk& desk, FileList& list, std::string_view path);
 void ChooseFile(Orvane_Desk& desk, FileList& list, std::string_view name);
 
-// One tick of a timer, if it is enabled. No user's action: it comes with its window hidden, too.
+// One tick of a timer, if it is enabled. It is no action of the user: it comes even while the
+// window is hidden.
 void Tick(Orvane_Desk& desk, Timer& timer, Reach reach = Reach::AsUser);
 
 }  // namespace orvane

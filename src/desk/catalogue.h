@@ -6,7 +6,7 @@
 namespace orvane {
 
 struct Catalogue {
-  // Compared with MolText, whole, to recognise a structure.
+  // Each is compared as a whole with MolText to recognise a structure.
   std::string TextAlfa, TextAlfb, TextBeta, TextBetb, TextPbs, TextApbs;
   std::string TextNucleotideA, TextNucleotideC, TextNucleosideG, TextNucleotideG, TextNucleotideT;
   std::string TextRibose, TextS1Dna, TextS2Dna, TextDna3;

@@ -11,7 +11,7 @@
 namespace orvane {
 
 struct Colours {
-  Colour PenColour = kPalette7;  // the molecule without element colours, and every trace
+  Colour PenColour = kPalette7;  // of the molecule without element colours, and of every trace
   int ColourByElement = 1;
   Colour LabelColour = kPalette15;
   Colour PlaneColour = kPalette3;

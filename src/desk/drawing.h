@@ -1,5 +1,5 @@
-// What the painters read: modes, widths, and the fields through which they hand names and colours
-// on.
+// What the painters read: modes, widths, and the fields through which they pass on names and
+// colours.
 #pragma once
 
 #include <string>
@@ -28,11 +28,11 @@ struct Drawing {
   Int16 FastWire = 0;    // no command sets it; the path it opens is kept dormant
 
   NameField DrawName;     // the atom being painted, for the colour pickers
-  double LineColour = 0;  // colour of the next half-bond; an unknown element keeps the one before
+  double LineColour = 0;  // colour of the next half-bond; an unknown element keeps the last one
   double BallRadius = 0;  // element radius of the next ball, kept the same way
-  int HalfIsDouble = 0;   // 1: the first half of the present bond was doubled
+  int HalfIsDouble = 0;   // 1: the first half of the current bond was doubled
 
-  // Last seen atoms of the marked peptide plane; 0 until seen, never cleared.
+  // The last seen atoms of the marked peptide plane; 0 until seen, never cleared.
   Int16 PlaneIndex, PlaneH, PlaneO, PlaneCA1, PlaneCA2;
   Int16 PlanePaintCount;  // runs of the plane painter; nothing reads it, and it overflows
 };

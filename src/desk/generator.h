@@ -14,8 +14,8 @@ struct PlacedAtom {
 };
 
 struct Generator {
-  Point RefBonded;   // the new atom hangs on it
-  Point RefAngle;    // with RefBonded the axis along which the angle is laid off
+  Point RefBonded;   // the new atom is bonded to it
+  Point RefAngle;    // its line to RefBonded is one side of the angle
   Point RefTorsion;  // fixes the azimuth from which the torsion is counted
   Point NewAtom;     // the result
 
@@ -25,7 +25,7 @@ struct Generator {
   // The residue so far, at full precision: a record's cut coordinates never place another atom.
   std::vector<PlacedAtom> Placed;
 
-  // Three picked points come here too and find no further reader.
+  // Three picked points are copied here too; nothing reads them.
   Point PickedA, PickedB, PickedC;
 };
 

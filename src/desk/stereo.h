@@ -1,4 +1,4 @@
-// The composed views: which is on, and what has to be given back afterwards.
+// The composed views: which is on, and what has to be restored afterwards.
 #pragma once
 
 #include "runtime/colour.h"
@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-// An axis selector put aside during a composition.
+// An axis selector saved during a composition.
 struct AxisCells {
   int X = 0, Y = 0, Z = 0;
 };

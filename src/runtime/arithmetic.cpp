@@ -5,7 +5,7 @@
 namespace orvane {
 
 Int16 RoundToInt16(double value) {
-  if (!(value > -32769.0 && value < 32768.0)) FailOverflow();  // also what is no number
+  if (!(value > -32769.0 && value < 32768.0)) FailOverflow();  // NaN fails too
   return Int16(static_cast<int>(std::nearbyint(value)));  // the default mode rounds half to even
 }
 

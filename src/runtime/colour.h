@@ -15,7 +15,7 @@ constexpr int Red(Colour colour) { return static_cast<int>(colour & 255u); }
 constexpr int Green(Colour colour) { return static_cast<int>((colour >> 8) & 255u); }
 constexpr int Blue(Colour colour) { return static_cast<int>((colour >> 16) & 255u); }
 
-// The colours of the classic palette of sixteen that the program asks for by index.
+// The colours that the program asks for by their index in the classic palette of sixteen.
 inline constexpr Colour kPalette0 = Rgb(0, 0, 0);
 inline constexpr Colour kPalette3 = Rgb(0, 128, 128);
 inline constexpr Colour kPalette7 = Rgb(192, 192, 192);

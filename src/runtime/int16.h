@@ -11,9 +11,9 @@ namespace orvane {
 class Int16 {
  public:
   constexpr Int16() = default;
-  // From any whole number; fails when it leaves -32768 to 32767. Arithmetic on fields is done in
-  // ints and checked here, when the result is stored: `const Int16 bound = 2 * AtomCount;` fails
-  // just where a 16-bit product would.
+  // From any whole number; fails outside -32768 to 32767. Arithmetic on fields is done in ints and
+  // checked here, when the result is stored: `const Int16 bound = 2 * AtomCount;` fails exactly
+  // where a 16-bit product would.
   constexpr Int16(int value) : value_(Checked(value)) {}  // NOLINT(google-explicit-constructor)
 
   constexpr operator int() const { return value_; }  // NOLINT(google-explicit-constructor)

@@ -27,8 +27,8 @@ std::string_view WithoutPlus(std::string_view text) {
   return text;
 }
 
-// Of a number for which no double is near enough: whether it is too small, and not too large. The
-// power of ten at which its first digit stands tells.
+// Whether a number outside the range of a double is too small, and not too large. The power of ten
+// of its first digit tells.
 bool IsTooSmall(std::string_view number) {
   const std::string_view digits = number.substr(0, number.find_first_of("eE"));
   std::string_view exponent = number.substr(std::min(digits.size() + 1, number.size()));
@@ -36,7 +36,7 @@ bool IsTooSmall(std::string_view number) {
   long long power = 0;
   const auto [end, error] =
       std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
-  // No text has digits enough to make up for such an exponent.
+  // No text has enough digits to make up for such an exponent.
   if (error == std::errc::result_out_of_range) return exponent.starts_with('-');
   const auto point = static_cast<long long>(std::min(digits.find('.'), digits.size()));
   return power + point < static_cast<long long>(digits.find_first_of("123456789"));
@@ -74,14 +74,14 @@ Int16 RoundedInt16(std::string_view text) {
   if (end != number.data() + number.size()) FailConversion(text);
   if (error == std::errc::result_out_of_range && IsTooSmall(number)) return 0;
   if (error != std::errc() || !std::isfinite(value)) FailConversion(text);
-  // Named by its text, which the user knows; 32767.5 would round to the even neighbour above.
+  // Reported by its text, which the user knows; 32767.5 would round up to the even neighbour.
   if (value < -32768.5 || value >= 32767.5) FailConversion(text);
   return RoundToInt16(value);
 }
 
 std::string SingleText(double value) {
   const auto single = static_cast<float>(value);
-  // In 64 bits: in 32 the logarithm of what lies just below 100 would be that of 100.
+  // In 64 bits: in 32 the logarithm of a value just below 100 would be that of 100.
   const double size = std::fabs(static_cast<double>(single));
   const int leading = size == 0.0 ? 0 : static_cast<int>(std::floor(std::log10(size)));
   return Fixed(single, std::max(0, 6 - leading));

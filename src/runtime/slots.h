@@ -1,6 +1,6 @@
 // A fixed array with slots 0 to 30000, checked at each use. Slot 0 is never filled: atoms and bonds
-// are numbered from 1. All begin as zero bytes, and a page of them takes memory when it is first
-// written: of the 30001 no structure fills more than 596.
+// are numbered from 1. All begin as zero bytes, and a page of them takes memory only when it is
+// first written: no structure fills more than 596 of the 30001.
 #pragma once
 
 #include <cstdlib>
@@ -30,7 +30,7 @@ class Slots {
   struct Free {
     void operator()(T* values) const { std::free(values); }
   };
-  // The system's zeroed memory as it comes: a loop that cleared it would touch every page.
+  // The system's zeroed memory as it comes: a loop to clear it would touch every page.
   static T* Zeroed() {
     void* values = std::calloc(kLastSlot + 1, sizeof(T));
     if (values == nullptr) std::abort();

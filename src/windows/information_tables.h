@@ -1,4 +1,4 @@
-// Control tables of the three windows that stand before or beside the main window.
+// Control tables of the three windows that open before or beside the main window.
 #pragma once
 
 #include <span>
@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-// The first row is the window itself; a container stands before what it holds.
+// The first row is the window itself; a container comes before what it holds.
 std::span<const ControlRow> FrontTable();
 std::span<const ControlRow> ContentTable();
 std::span<const ControlRow> AuthorTable();

@@ -8,7 +8,7 @@
 namespace orvane {
 
 inline constexpr int kFrontFrames = 10;     // of each animation
-inline constexpr int kFrontInterval = 150;  // milliseconds a frame
+inline constexpr int kFrontInterval = 150;  // milliseconds for each frame
 
 struct FrontWindow : Window {
   FrontWindow() : Window(FrontTable(), "Orvane_Front.") {}
@@ -34,7 +34,7 @@ struct ContentWindow : Window {
   Ornament Line5{*this, "Line5"};
   ImageBox OVN_Icon{*this, "OVN_Icon"};
   Panel WtNew{*this, "WtNew"};
-  ControlArray<Panel, 3> Card{*this, "Card"};  // below what stands on them
+  ControlArray<Panel, 3> Card{*this, "Card"};  // below what lies on them
   ControlArray<Panel, 5> Text{*this, "Text"};
   Ornament Line2{*this, "Line2"}, Line3{*this, "Line3"}, Line4{*this, "Line4"};
   Panel Greek{*this, "Greek"};  // the letter over the gap of "C  -trace"

@@ -1,5 +1,5 @@
-// The one work window: its controls under their names. What each is stands in
-// main_window_table.cpp, what each does in the room of its handler.
+// The one work window: its controls under their names. main_window_table.cpp says what each is, and
+// its handler under commands/ what it does.
 #pragma once
 
 #include "controls/kinds.h"

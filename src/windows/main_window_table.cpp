@@ -18,7 +18,7 @@ constexpr auto kRows = std::to_array<ControlRow>({
     // The window itself.
     {.Name = "Orvane_Desk", .Kind = Window, .Caption = "Orvane (OVN) V3.0",
      .At = {525, 15, 8505, 7275}, .Visible = false},
-    // Menus. An entry's parent is the menu in which it stands.
+    // Menus. An entry's parent is the menu that holds it.
     {.Name = "OpTs", .Kind = MenuEntry, .Caption = "&Options",
      .Tip = "Choose colours and the background, print, or leave"},
     {.Name = "MlClr", .Kind = MenuEntry, .Parent = "OpTs", .Caption = "&Mol_Colour",
@@ -158,7 +158,7 @@ constexpr auto kRows = std::to_array<ControlRow>({
      .Tip = "Make the plane lines narrower", .TabStop = 23},
     {.Name = "Bt3_Reset", .Kind = Button, .Caption = "Reset", .At = {60, 5940, 600, 270},
      .Tip = "Go back to the start view", .TabStop = 24},
-    // The picture, and the split views that stand in its place.
+    // The picture, and the split views that take its place.
     {.Name = "Box", .Kind = Ornament, .At = {720, 360, 5535, 5535}},
     {.Name = "P_Pic1", .Kind = Panel, .At = {720, 360, 5535, 5535},
      .Tip = "Look at the molecule in this frame", .Spoken = "Frame of the picture",

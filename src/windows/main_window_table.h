@@ -1,5 +1,5 @@
-// The main window's control table: a row a control, by which the window and every skin of it is
-// built.
+// The main window's control table: one row for each control. The window and every skin of it are
+// built from it.
 #pragma once
 
 #include <span>
@@ -8,7 +8,7 @@
 
 namespace orvane {
 
-// The first row is the window itself; a container stands before what it holds.
+// The first row is the window itself; a container comes before what it holds.
 std::span<const ControlRow> MainWindowTable();
 
 }  // namespace orvane

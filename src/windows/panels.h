@@ -1,4 +1,4 @@
-// The floating panels' closing rule.
+// How the floating panels close.
 #pragma once
 
 #include "windows/main_window.h"

@@ -1,5 +1,6 @@
-// The window of the Ramachandran map: four areas side by side make the phi-psi plane. Its places
-// and captions stand in plot_window_table.cpp, its hover in hover.h.
+// The window of the Ramachandran map: four areas side by side make the phi-psi plane.
+// plot_window_table.cpp has its places and captions, ramachandran/map_names.h the names that show
+// under the pointer.
 #pragma once
 
 #include "controls/kinds.h"
@@ -7,7 +8,8 @@
 
 namespace orvane {
 
-// One quarter of the map. Its inner size is its place in twips, so a fraction of a pixel counts.
+// One quarter of the map. Its inner size follows from its place in twips, so a fraction of a pixel
+// counts.
 class MapArea : public PictureBox {
  public:
   MapArea(Window& window, std::string_view name) : PictureBox(window, name, 141, 139) {}
@@ -22,7 +24,7 @@ struct PlotWindow : Window {
   ControlArray<MapArea, 4> Area{*this,
                                 "Area"};  // 0 top left, 1 bottom left, 2 bottom right, 3 top right
 
-  // Names on the map. Letters "a", "b", "f", "j" of a control of its own stand for Greek ones.
+  // Names on the map. A letter "a", "b", "f" or "j" in a control of its own stands for a Greek one.
   ControlArray<Label, 6> b_sheet{*this, "b_sheet"};
   Ornament CoLn{*this, "CoLn"};
   ControlArray<Label, 4> R_Alf{*this, "R_Alf"};

@@ -9,8 +9,8 @@ namespace {
 
 using enum ControlKind;
 
-// Places in twips. The names on the map lie within the area that holds them; letters of Greek are
-// laid over the gaps of the captions beside them.
+// Places in twips. The names on the map lie within the area that holds them; Greek letters are laid
+// over the gaps of the captions beside them.
 // clang-format off
 constexpr auto kRows = std::to_array<ControlRow>({
     {.Name = "Ramachandran", .Kind = Window, .Caption = "Ramachandran", .At = {1680, 60, 6135, 7125}, .Visible = false},
@@ -52,7 +52,7 @@ constexpr auto kRows = std::to_array<ControlRow>({
     {.Name = "Label4(3)", .Kind = Label, .Parent = "RamPlt_H", .Caption = "f", .At = {2540, 1410, 150, 255}, .Tip = "Read what this colour stands for", .Spoken = "phi", .Role = SpokenRole::Decoration},
     {.Name = "Label6(3)", .Kind = Label, .Parent = "RamPlt_H", .Caption = "j", .At = {3030, 1410, 150, 255}, .Tip = "Read what this colour stands for", .Spoken = "psi"},
 
-    // Scale marks, each with its degree mark behind it.
+    // Scale marks, each with its degree mark after it.
     {.Name = "Degrs(0)", .Kind = Panel, .Parent = "RamPlt_H", .Caption = "180",  .At = { 600, 1830, 285, 195}, .Tip = "Read the angle at this edge", .Spoken = "180 degrees"},
     {.Name = "Degrs(1)", .Kind = Panel, .Parent = "RamPlt_H", .Caption = "o",    .At = { 875, 1755,  85, 135}, .Tip = "Read the angle at this edge", .Spoken = "degrees", .Role = SpokenRole::Decoration},
     {.Name = "Degrs(2)", .Kind = Panel, .Parent = "RamPlt_H", .Caption = "180",  .At = {4995, 6060, 285, 195}, .Tip = "Read the angle at this edge", .Spoken = "180 degrees"},

@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-// The first row is the window itself; a container stands before what it holds.
+// The first row is the window itself; a container comes before what it holds.
 std::span<const ControlRow> PlotWindowTable();
 
 }  // namespace orvane

@@ -1,5 +1,5 @@
 // The printed page: a window that is never shown, filled from the main window and printed as it
-// stands. Its table is print_page_table.cpp.
+// stands. Its table is in print_page.cpp.
 #pragma once
 
 #include "controls/kinds.h"

@@ -1,4 +1,4 @@
-// The 33 swatches of the colour panel: where each stands and the colour that it is.
+// The 33 swatches of the colour panel: where each stands and its colour.
 #pragma once
 
 #include <array>
