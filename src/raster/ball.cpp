@@ -26,10 +26,10 @@ std::uint32_t Blend(std::uint32_t outline, std::uint32_t fill, double part_of_fi
   return word;
 }
 
-// The word of a pixel at a distance from the centre: colour, and in its top byte the cover.
+// The pixel at a distance from the centre: its colour, and in the top byte its cover.
 std::uint32_t WordAt(const Ball& ball, double distance) {
   const double outer = Inside(ball.Radius + ball.Width / 2, distance);
-  // Of a ball smaller than its pen there is only pen.
+  // A ball smaller than its pen is all outline.
   const double core = ball.Radius - ball.Width / 2;
   const double inner = core > 0 ? Inside(core, distance) * std::min(1.0, 2 * core) : 0;
   if (!ball.Filled) return Part(outer - inner) << 24 | (WordOf(ball.Ink) & 0xFFFFFFu);
@@ -38,7 +38,7 @@ std::uint32_t WordAt(const Ball& ball, double distance) {
   return Part(outer) << 24 | Blend(WordOf(ball.Ink), WordOf(ball.Fill), share);
 }
 
-// 0 to 255 becomes 0 to 256, so that a full cover hides all.
+// 0 to 255 becomes 0 to 256, so that a full cover hides everything.
 Sprite::Four FourOf(Words4 words) {
   const Words4 top = words >> 24;
   const Halves8 cover = InBoth(top + (top >> 7));
@@ -70,7 +70,7 @@ Sprite::Row RowOf(const std::uint32_t* words, int side, bool filled) {
   return row;
 }
 
-// The edges in the order in which BlitWhole comes by them.
+// The edges in the order in which BlitWhole reaches them.
 void AddEdges(Sprite& sprite, const Sprite::Row& row, const std::uint32_t* words) {
   const auto add = [&](int from, int to) {
     for (int x = from; x < to; x += 4) {
@@ -102,7 +102,7 @@ Sprite MakeSprite(const Ball& ball, double phase_x, double phase_y) {
   return sprite;
 }
 
-// For a sprite that lies on the canvas with four pixels to spare on its right.
+// For a sprite that lies on the canvas with four pixels to spare to its right.
 void BlitWhole(const Canvas& canvas, int left, int top, const Sprite& sprite) {
   const Sprite::Four* edge = sprite.Edges.data();
   const std::uint32_t* source = sprite.Words.data();
@@ -134,7 +134,8 @@ void BlitPart(const Canvas& canvas, int left, int top, const Sprite& sprite) {
   }
 }
 
-// A ball too large for a sprite, row by row: its rims pixel by pixel, what is between them at once.
+// A ball too large for a sprite, row by row: its rims pixel by pixel, and what is between them at
+// once.
 void DrawLarge(const Canvas& canvas, double x, double y, const Ball& ball) {
   const auto within = [](double value, int size) {
     return static_cast<int>(std::clamp(value, 0.0, static_cast<double>(size)));

@@ -10,7 +10,7 @@
 
 namespace orvane {
 
-// Measures are pixels of the canvas. The outline is drawn upon the circle, half of it inside.
+// Sizes are in canvas pixels. The outline is drawn along the circle, half of it inside.
 struct Ball {
   double Radius = 0;
   double Width = 1;  // of the outline
@@ -24,26 +24,26 @@ struct Ball {
 // A ball in its square. Its core is copied and its edge is mixed, four pixels at a time.
 struct Sprite {
   struct Row {
-    int First = 0, Last = 0;  // pixels that are touched, one past the last
-    int Solid = 0;            // the first that hides what is below; where there is none, Last
+    int First = 0, Last = 0;  // the pixels touched, and one past the last
+    int Solid = 0;            // the first that hides what is below; Last if none does
     int Copied = 0;           // pixels from there on that are copied
   };
   struct Four {
-    Channels Ink;  // weighted with its cover
-    Halves8 Rest;  // what is left of the ground
+    Channels Ink;  // weighted by its cover
+    Halves8 Rest;  // what is left of the background
   };
 
   int Side = 0;  // pixels to a row and to a column
   int Left = 0;  // of the square, from the pixel of the centre; its top is the same
   std::vector<Row> Rows;
-  std::vector<std::uint32_t> Words;  // of the whole square; the top byte is the cover
-  std::vector<Four> Edges;           // row by row, those before the copied pixels and those behind
+  std::vector<std::uint32_t> Words;  // pixels of the whole square; the top byte is the cover
+  std::vector<Four> Edges;           // row by row, those before the copied pixels and those after
 };
 
-// The balls that were drawn lately, each at 4 by 4 places within a pixel.
+// The balls drawn lately, each at 4 by 4 places within a pixel.
 class BallSprites {
  public:
-  // Draws a ball about a point; a whole number is the centre of a pixel.
+  // Draws a ball around a point; a whole number is the centre of a pixel.
   void Draw(const Canvas& canvas, double x, double y, const Ball& ball);
 
  private:
@@ -54,7 +54,7 @@ class BallSprites {
   };
   Set& SetOf(const Ball& ball);
 
-  std::vector<std::unique_ptr<Set>> sets_;  // the common ones in front
+  std::vector<std::unique_ptr<Set>> sets_;  // the common ones first
   std::size_t words_ = 0;                   // in all sprites
 };
 

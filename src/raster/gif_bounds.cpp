@@ -6,7 +6,7 @@ namespace {
 constexpr std::size_t kHeader = 13, kFrameHeader = 10;  // bytes
 constexpr unsigned char kExtension = 0x21, kFrame = 0x2C, kEnd = 0x3B;
 
-// Goes through a file from its start; whatever lies behind the end is 0.
+// Goes through a file from its start; whatever lies past the end is 0.
 struct Walk {
   std::span<const unsigned char> Bytes;
   std::size_t At = 0;
@@ -17,11 +17,11 @@ struct Walk {
   long Word(std::size_t ahead) const { return Byte(ahead) | Byte(ahead + 1) << 8; }
   bool IsOver() const { return At >= Bytes.size(); }
 
-  // The colours that a header with those flags is followed by.
+  // The colours that follow a header with those flags.
   void SkipColours(unsigned flags) {
     if ((flags & 0x80U) != 0) At += std::size_t{3} << ((flags & 7U) + 1);
   }
-  // Each begins with its length; an empty one is the last.
+  // Each part begins with its length; an empty one is the last.
   void SkipParts() {
     while (!IsOver() && Byte(0) != 0) At += Byte(0) + 1;
     ++At;
@@ -54,7 +54,7 @@ bool IsWithinBounds(std::span<const unsigned char> gif) {
         const unsigned flags = walk.Byte(9);
         walk.At += kFrameHeader;
         walk.SkipColours(flags);
-        ++walk.At;  // how wide the first codes are
+        ++walk.At;  // the width of the first codes
         walk.SkipParts();
         break;
       }

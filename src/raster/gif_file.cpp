@@ -33,11 +33,11 @@ Indices Blank(int width, int height, GifByteType index) {
               static_cast<std::size_t>(width) * static_cast<std::size_t>(height), index)};
 }
 
-// Most pixels have the colour of the one before, which need not be looked up again.
+// Most pixels have the colour of the one before, so it need not be looked up again.
 Indices IndicesOf(const Bitmap& picture, const GifPalette& palette) {
   GifColours colours(palette);
   Indices indices = Blank(picture.Width, picture.Height, 0);
-  std::uint32_t last = 0;  // no opaque colour
+  std::uint32_t last = 0;  // not an opaque colour
   GifByteType index = 0;
   std::transform(picture.Words.begin(), picture.Words.end(), indices.At.begin(),
                  [&](std::uint32_t word) {
@@ -48,7 +48,7 @@ Indices IndicesOf(const Bitmap& picture, const GifPalette& palette) {
   return indices;
 }
 
-// Larger, and what is new filled with that index.
+// The same enlarged, with the new part filled with that index.
 Indices Grown(const Indices& indices, int width, int height, GifByteType index) {
   Indices grown = Blank(width, height, index);
   for (int y = 0; y < indices.Height; ++y) {
@@ -62,7 +62,7 @@ struct Target {
   bool IsWhole = true;
 };
 
-// The library is written in C, so nothing may be thrown through it; nor does it look at each
+// The library is written in C, so nothing may be thrown through it; and it does not check every
 // answer.
 int AppendTo(GifFileType* file, const GifByteType* bytes, int count) {
   auto& target = *static_cast<Target*>(file->UserData);
@@ -74,7 +74,7 @@ int AppendTo(GifFileType* file, const GifByteType* bytes, int count) {
   return target.IsWhole ? count : 0;
 }
 
-// What the library made, or did. In memory it fails for want of more alone.
+// What the library made or did. As all is in memory, it fails only when there is no more of it.
 template <class T>
 T* Made(T* thing) {
   if (thing == nullptr) FailMemory();
@@ -119,7 +119,7 @@ struct FreeMap {
 };
 using ReadGif = std::unique_ptr<GifFileType, CloseReading>;
 
-// nullptr: no GIF, or one that is cut short, or one that claims to be of no screen's size.
+// nullptr: not a GIF, or one that is cut short, or one that claims to be larger than any screen.
 ReadGif Read(Source& source) {
   if (!IsWithinBounds(source.Bytes)) return nullptr;
   ReadGif gif(DGifOpen(&source, ReadFrom, nullptr));
@@ -147,7 +147,7 @@ FileBytes Written(const GifFileType& gif, const GifPalette& palette, int width, 
   file->ImageCount = gif.ImageCount;
   const int result = EGifSpew(file.get());
   if (result == GIF_OK) {
-    static_cast<void>(file.release());  // writing to the end has closed it
+    static_cast<void>(file.release());  // a complete write has closed it
   } else if (file->SColorMap == map.get()) {
     file->SColorMap = nullptr;
   }
@@ -214,7 +214,8 @@ bool HasPalette(const GifFileType& gif, const GifPalette& palette) {
   return true;
 }
 
-// Each frame as we write them, in the file's palette. Inside its screen they are.
+// Each frame is as we write it, in the file's palette. That it lies within the screen is checked in
+// IsWithinBounds.
 bool FramesAreOurs(const GifFileType& gif) {
   return std::all_of(gif.SavedImages, gif.SavedImages + gif.ImageCount,
                      [](const SavedImage& i) { return i.ImageDesc.ColorMap == nullptr; });
@@ -237,7 +238,7 @@ Indices LastScreen(const GifFileType& gif) {
   return screen;
 }
 
-// The smallest box round what is not to stay; one pixel when everything is.
+// The smallest box around what changes; one pixel when nothing does.
 Box ChangedBox(const Indices& frame) {
   int left = frame.Width, right = -1, top = frame.Height, bottom = -1;
   for (int y = 0; y < frame.Height; ++y) {
@@ -274,7 +275,7 @@ std::optional<FileBytes> AppendGifFrame(const FileBytes& animation, const Bitmap
   if (!HasPalette(*gif, palette) || !FramesAreOurs(*gif)) return std::nullopt;
 
   // The picture on the screen may have changed its size meanwhile. The file's screen grows with it;
-  // round a smaller picture it is black.
+  // around a smaller picture it is black.
   const int width = std::max(gif->SWidth, next.Width), height = std::max(gif->SHeight, next.Height);
   const Indices before = Grown(LastScreen(*gif), width, height, kGifUnchanged);
   Indices frame = Grown(IndicesOf(next, palette), width, height, 0);

@@ -1,4 +1,4 @@
-// GIF files in memory: one picture, or an animation that grows by a frame at a time.
+// GIF files in memory: one picture, or an animation that grows by one frame at a time.
 #pragma once
 
 #include <optional>
@@ -16,15 +16,15 @@ inline constexpr int kGifDelay = 10;  // of a frame, in hundredths of a second
 
 FileBytes WriteGif(const Bitmap& picture, const GifPalette& palette);
 
-// An animation that loops for ever, so far of one frame.
+// An animation that loops for ever, with one frame so far.
 FileBytes BeginGifAnimation(const Bitmap& first, const GifPalette& palette);
 
-// The animation and one frame more, which holds only what differs from the frame before it. Nothing
-// when the bytes are no GIF in that palette, or one that is cut short.
+// The animation with one more frame, which holds only what differs from the frame before it.
+// Nothing when the bytes are not a GIF in that palette, or one that is cut short.
 std::optional<FileBytes> AppendGifFrame(const FileBytes& animation, const Bitmap& next,
                                         const GifPalette& palette);
 
-// The first frame of a GIF in any palette. Nothing when the bytes are no GIF, or one cut short.
+// The first frame of a GIF in any palette. Nothing when the bytes are not a GIF or are cut short.
 std::optional<Bitmap> FirstFrameOf(std::span<const unsigned char> gif);
 
 }  // namespace orvane

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int Part(std::uint32_t word, int shift) { return static_cast<int>(word >> shift & 255u); }
 
-// Squared, each channel weighed roughly as the eye does.
+// Squared; each channel is weighted roughly as the eye does it.
 constexpr int Distance(std::uint32_t a, std::uint32_t b) {
   const int red = Part(a, 16) - Part(b, 16);
   const int green = Part(a, 8) - Part(b, 8);
@@ -22,7 +22,7 @@ std::uint8_t GifColours::Nearest(std::uint32_t word) const {
   for (int i = 0; i < palette_.Count; ++i) {
     const std::uint32_t candidate = palette_.Words[static_cast<std::size_t>(i)];
     const int green = Part(word, 8) - Part(candidate, 8);
-    if (4 * green * green >= least) continue;  // green alone is too far off, as it mostly is
+    if (4 * green * green >= least) continue;  // green alone is too far off, as it usually is
     const int distance = Distance(word, candidate);
     if (distance < least) {
       least = distance;

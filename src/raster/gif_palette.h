@@ -9,10 +9,10 @@
 
 namespace orvane {
 
-// Never a colour: what a frame leaves as the frame before it.
+// Never a colour: it marks what a frame leaves as it was in the frame before.
 inline constexpr std::uint8_t kGifUnchanged = 255;
 
-// At most 255 colours; what is left of the words is black.
+// At most 255 colours; the rest is black.
 struct GifPalette {
   std::array<std::uint32_t, 256> Words{};  // 0xFFRRGGBB
   int Count = 0;
@@ -27,7 +27,8 @@ struct GifPalette {
   }
 };
 
-// Finds the nearest colour of a palette, and remembers: a picture has few colours, many times.
+// Finds the nearest colour of a palette, and remembers it: a picture has few colours, each many
+// times.
 class GifColours {
  public:
   explicit GifColours(const GifPalette& palette) : palette_(palette) {}

@@ -11,7 +11,7 @@
 namespace orvane {
 namespace {
 
-constexpr std::size_t kMostLabels = 4096;  // numbers of picks differ from one to the next
+constexpr std::size_t kMostLabels = 4096;  // the tags of picks have numbers, so they differ
 constexpr std::size_t kLongestText = 256;  // letters; the rest would be off the surface
 constexpr double kLargestType = 400;       // pixels; beyond it a letter is larger than a screen
 
@@ -38,7 +38,7 @@ struct Labels::Type {
     FT_Done_FreeType(Library);
   }
 
-  // The glyphs of a text one behind the other; their advances are not rounded to pixels.
+  // The glyphs of a text one after the other; their advances are not rounded to pixels.
   std::vector<Placed> Place(std::string_view text, double size) const {
     std::vector<Placed> placed;
     if (Face == nullptr) return placed;
@@ -75,7 +75,7 @@ void Labels::BeginPaint() {
   if (labels_.size() > kMostLabels) labels_.clear();
 }
 
-// Kept only once it is whole: it may be more than there is memory for.
+// Kept only once it is whole: there may be no memory for it.
 const LabelInk& Labels::Of(std::string_view text, double scale) {
   Key key{std::string(text), scale};
   const auto found = labels_.find(key);
@@ -106,7 +106,7 @@ LabelInk Labels::Drawn(std::string_view text, double scale) const {
       for (int x = 0; x < glyph.Width; ++x) {
         const int at = (glyph.Top - label.Top + y) * label.Stride + glyph.Left - label.Left + x;
         const std::uint32_t grey = glyph.Mask[static_cast<std::size_t>(y * glyph.Width + x)];
-        const std::uint32_t part = grey + (grey >> 7);  // 255 hides all
+        const std::uint32_t part = grey + (grey >> 7);  // 255 hides everything
         std::uint32_t& cover = label.Mask[static_cast<std::size_t>(at)];
         cover = std::max(cover, part | part << 16);
       }

@@ -1,5 +1,5 @@
-// Texts of the surface: Liberation Sans, metrically Arial, 8.25 points, which are 11 pixels at 96
-// dots to the inch. Grey and unhinted, so that they are the same on every machine.
+// Texts of the surface: Liberation Sans, which has the widths of Arial, in 8.25 points, which are
+// 11 pixels at 96 dots to the inch. Grey and unhinted, so that they are the same on every machine.
 #pragma once
 
 #include <cstdint>
@@ -19,12 +19,12 @@ inline constexpr double kTypeSize = 11;  // surface pixels
 struct LabelInk {
   int Left = 0, Top = 0;      // from the top left of the first character cell
   int Width = 0, Height = 0;  // of the ink
-  int Stride = 0;             // words to a row, with empty ones behind the ink
-  // How much of each pixel is covered, from 0 to 256, in both halves of its word.
+  int Stride = 0;             // pixels to a row, with empty ones after the ink
+  // How much of each pixel is covered, from 0 to 256, in both halves of its 32 bits.
   std::vector<std::uint32_t> Mask;
 };
 
-// The labels that were drawn lately, one for each distinct text at each scale.
+// The labels drawn lately, one for each distinct text at each scale.
 class Labels {
  public:
   Labels();
@@ -32,7 +32,7 @@ class Labels {
 
   // The label stays until the next BeginPaint.
   const LabelInk& Of(std::string_view text, double scale);
-  // Drops all labels when they have become many.
+  // Drops all labels when there are many.
   void BeginPaint();
 
  private:

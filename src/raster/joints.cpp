@@ -3,7 +3,7 @@
 namespace orvane {
 namespace {
 
-constexpr float kStraight = 0.02f;  // sine of the largest bend that still passes for none
+constexpr float kStraight = 0.02f;  // sine of the largest bend that still counts as none
 
 bool GoesOnIn(const Stroke& line, const Stroke& next) {
   if (next.Kind != StrokeKind::Line || next.X1 != line.X2 || next.Y1 != line.Y2) return false;

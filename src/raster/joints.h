@@ -1,5 +1,5 @@
-// Where a line goes on in another of the same width and direction, as the halves of a bond do. Such
-// ends are cut flat and the others are round, so that corners close and halves meet in a clean
+// Where a line continues in another of the same width and direction, as the halves of a bond do.
+// Such ends are cut flat and the others are round, so corners close and halves meet in a clean
 // edge.
 #pragma once
 

@@ -10,7 +10,7 @@
 
 namespace orvane {
 
-// An image of opaque pixels, row by row from the top left, 0xFFRRGGBB words.
+// An image of opaque pixels 0xFFRRGGBB, row by row from the top left.
 struct Bitmap {
   int Width = 0, Height = 0;
   std::vector<std::uint32_t> Words;
@@ -32,7 +32,7 @@ struct Stroke {
   friend bool operator==(const Stroke&, const Stroke&) = default;
 };
 
-// A surface's content at a moment: shared, and unchanged for ever.
+// A surface's content at one moment: shared, and never changed.
 struct Picture {
   Colour BackColor = 0;
   std::shared_ptr<const Bitmap> Backdrop;  // drawn from the top left at its own size; may be null

@@ -15,8 +15,8 @@
 namespace orvane {
 namespace {
 
-constexpr double kDash = 3;          // surface pixels of a dot of the dotted pen, and of its gap
-constexpr double kShortestDash = 2;  // canvas pixels; a shorter one is no longer told from its gap
+constexpr double kDash = 3;          // surface pixels in a dot of the dotted pen, and in its gap
+constexpr double kShortestDash = 2;  // canvas pixels; a shorter one cannot be told from its gap
 constexpr double kThinnest = 0.75;   // canvas pixels; a finer pen would fade away
 
 // The canvas place of a surface place. A whole number is the centre of a pixel on both.
@@ -36,7 +36,7 @@ bool CornerOn(double scale, float place, int& pixel) {
 void FillPlain(const Canvas& canvas, std::uint32_t word) {
   if (canvas.Height == 0) return;
   std::fill_n(canvas.Words, canvas.Width, word);
-  // The library's own copy is the fastest way to fill the rest, whatever the processor.
+  // The library's own copy is the fastest way to fill the rest on any processor.
   for (int y = 1; y < canvas.Height; ++y) {
     std::memcpy(canvas.Row(y), canvas.Words,
                 static_cast<std::size_t>(canvas.Width) * sizeof(std::uint32_t));
@@ -63,7 +63,7 @@ void DrawLine(const Canvas& canvas, double scale, std::span<const Stroke> stroke
 
 bool IsDot(const Stroke& line) { return line.X1 == line.X2 && line.Y1 == line.Y2; }
 
-// What a round pen leaves that does not move.
+// What a round pen leaves when it does not move.
 Ball DotOn(double scale, const Stroke& line) {
   return {.Radius = LineOn(scale, line.Width) / 2, .Width = 0, .Ink = line.Ink, .Fill = line.Ink};
 }

@@ -1,5 +1,5 @@
 // Turns a picture's strokes into antialiased pixels at any scale. Nothing is drawn at one size and
-// stretched to another, but a backdrop, which has pixels of its own.
+// stretched to another, except a backdrop, which has pixels of its own.
 #pragma once
 
 #include <cstdint>
@@ -15,8 +15,8 @@ class Raster {
   Raster();
   ~Raster();
 
-  // Fills `height` rows of `width` words 0xFFRRGGBB, `stride` words from one to the next. `scale`
-  // is canvas pixels to a surface pixel, for places, pens, radii, type and backdrop alike.
+  // Fills `height` rows of `width` pixels 0xFFRRGGBB, `stride` pixels from one row to the next.
+  // `scale` is canvas pixels to a surface pixel, for places, pens, radii, type and backdrop alike.
   void Paint(const Picture& picture, double scale, std::uint32_t* words, int width, int height,
              int stride);
 

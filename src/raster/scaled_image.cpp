@@ -9,13 +9,14 @@ namespace {
 constexpr std::size_t kMostScaled = 4;
 constexpr std::uint32_t kOne = 1u << 14;  // a weight of 1
 
-// The pixels that make one of the resized row or column, and their weights, of sum kOne.
+// The pixels that make one pixel of the resized row or column, and their weights, which add up to
+// kOne.
 struct Mixture {
   int First = 0;
   std::vector<std::uint32_t> Weights;
 };
 
-// A tent over each pixel's centre, as wide as the coarser of the two rasters asks for.
+// A tent over each pixel's centre, as wide as the coarser of the two rasters needs.
 std::vector<Mixture> MixturesOf(int from, int to, double scale) {
   const double reach = std::max(1.0, 1 / scale);
   std::vector<Mixture> mixtures(static_cast<std::size_t>(to));
@@ -36,13 +37,13 @@ std::vector<Mixture> MixturesOf(int from, int to, double scale) {
       mixture.Weights.push_back(static_cast<std::uint32_t>(height / sum * kOne));
       given += mixture.Weights.back();
     }
-    // What the cutting left over goes to the pixel that counts most.
+    // What rounding down left over goes to the pixel with the largest weight.
     *std::max_element(mixture.Weights.begin(), mixture.Weights.end()) += kOne - given;
   }
   return mixtures;
 }
 
-// `step` is how far the mixed words lie apart.
+// `step` is how far apart the mixed pixels lie.
 std::uint32_t Mixed(const Mixture& mixture, const std::uint32_t* words, std::ptrdiff_t step) {
   std::uint32_t red = kOne / 2, green = kOne / 2, blue = kOne / 2;
   words += mixture.First * step;

@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-// Images at the sizes in which they were shown lately.
+// Images at the sizes at which they were shown lately.
 class Backdrops {
  public:
   void Draw(const Canvas& canvas, const std::shared_ptr<const Bitmap>& image, double scale);
@@ -20,11 +20,11 @@ class Backdrops {
     double Scale = 1;
     Bitmap Image;
   };
-  std::vector<Scaled> scaled_;  // the ones made last at the end
+  std::vector<Scaled> scaled_;  // the latest at the end
 };
 
-// An image of that size whose top left is that of `image`, each of its pixels `scale` pixels wide.
-// Smaller pixels are averages, larger ones run into each other.
+// An image of that size with the same top left as `image`, in which each pixel of `image` is
+// `scale` pixels wide. Shrunk pixels are averaged, enlarged ones run into each other.
 Bitmap Resized(const Bitmap& image, double scale, int width, int height);
 
 }  // namespace orvane

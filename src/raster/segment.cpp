@@ -44,7 +44,7 @@ std::optional<Track> TrackOn(const Canvas& canvas, const Segment& segment) {
   if (!keep(segment.X1, along_x, canvas.Width)) return {};
   if (!keep(segment.Y1, along_y, canvas.Height)) return {};
 
-  // Of ends that lie farther off than a double tells pixels, the rest of the sum is noise.
+  // For ends so far off that a double cannot tell one pixel from the next, the sum is noise.
   const double x = segment.X1 + from * along_x;
   const double y = segment.Y1 + from * along_y;
   const double slack = margin + 1;

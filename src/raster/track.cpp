@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <cmath>
 
-// Vectors of eight are passed between functions of this file only, which are all inlined.
+// Vectors of eight are passed only between functions of this file, which are all inlined.
 #pragma GCC diagnostic ignored "-Wpsabi"
 
 namespace orvane {
 namespace {
 
 constexpr float kFar = 1e9f;  // farther than any pixel
-// Below this part of a pixel a row's slope says nothing about where the stroke crosses it.
+// A slope below this does not say where the stroke crosses a row.
 constexpr float kLevel = 1e-4f;
-// Pixels to a row of the core from which on filling it apart is the shorter way.
+// From so many pixels of the core in a row on, it is faster to fill them separately.
 constexpr int kWorthFilling = 12;
 constexpr int kHalfWorthFilling = kWorthFilling / 2;
 
@@ -43,24 +43,23 @@ ORVANE_INLINE Floats Root(Floats squares) {
   return squares;
 }
 
-// A wave that is above a half on dashes and below on gaps, in the unit in which `on` and `dash`
-// are.
+// A wave that is above a half on dashes and below it on gaps, in the unit of `on` and `dash`.
 template <int kLanes, class Floats>
 ORVANE_INLINE Floats DashAt(Floats on, float phase, float dash, float unit) {
   using Ints = typename VectorsOf<kLanes>::Ints;
   const Floats turns = (Larger(on, Floats{} - unit) + (phase + 2 * dash)) * (0.5f / dash);
   const Floats turn = turns - __builtin_convertvector(__builtin_convertvector(turns, Ints), Floats);
   const Floats aside = Larger(turn - 0.25f, 0.25f - turn);
-  // Behind the middle of the gap the next dash comes nearer.
+  // Past the middle of the gap the next dash comes nearer.
   return 0.5f * unit + 2 * dash * (0.25f - Smaller(aside, 1 - aside));
 }
 
-// Where a row lies between two parallel lines: a middle that moves from row to row, and half the
-// way across.
+// The part of a row between two parallel lines: its middle, which moves from row to row, and half
+// its width.
 struct Slab {
   float Middle = 0, Step = 0, Half = kFar;
 
-  // low <= at + slope * x + step * y <= high. Lines that lie level set no bounds.
+  // low <= at + slope * x + step * y <= high. Level lines set no bounds.
   ORVANE_INLINE Slab(float at, float slope, float step, float low, float high) {
     if (std::abs(slope) < kLevel) return;
     const float inverse = 1 / slope;
@@ -85,12 +84,12 @@ ORVANE_INLINE Pixels Within(const Slab& a, const Slab& b, float y, float right) 
     low = Smaller(Larger(low, 0.0f), right);
     high = Larger(Smaller(high, right), -1.0f);
   }
-  // Cutting rounds down, so this is the first whole number that is not before `low`, or almost.
+  // The cast rounds down, so this is the first whole number that is not before `low`, or almost.
   return {static_cast<int>(low + 0.99f), 1 + static_cast<int>(high)};
 }
 
-// A condition that a whole row meets or does not, there being no bounds along the row: that of a
-// slab whose lines lie level. Of another slab it is met everywhere.
+// A condition that a whole row meets or does not: that of a slab with level lines, which sets no
+// bounds along the row. For any other slab it is always met.
 struct RowLimit {
   float AtLeft = 0, AtRight = 0, Step = 0, Low = -kFar, High = kFar;
 
@@ -108,8 +107,8 @@ struct RowLimit {
       : AtLeft(at_left), AtRight(at_right), Step(step), Low(low), High(high) {}
 };
 
-// With kIsInside all that is touched lies on the canvas. Otherwise the words behind a row's end are
-// borrowed ones, so that nothing is written outside it.
+// With kIsInside everything that is touched lies on the canvas. Otherwise the pixels past a row's
+// end are borrowed ones, so that nothing is written outside it.
 template <int kLanes, unsigned kEnds, bool kIsInside>
 ORVANE_INLINE void Draw(const Canvas& canvas, const Track& track, int top, int bottom) {
   using Floats = typename VectorsOf<kLanes>::Floats;
@@ -127,7 +126,7 @@ ORVANE_INLINE void Draw(const Canvas& canvas, const Track& track, int top, int b
   const auto dash = static_cast<float>(track.Dash), phase = static_cast<float>(track.Skipped);
   const float reach = radius + 0.5f;  // where cover ends beside the track
 
-  // Of pixel 0 of row 0: how far beside the track, and how far along it.
+  // How far pixel 0 of row 0 lies beside the track, and how far along it.
   const float beside = start_x * along_y - start_y * along_x;
   const float along = -start_x * along_x - start_y * along_y;
   const float before = kIsFlatStart ? 0.5f : reach;
@@ -136,7 +135,8 @@ ORVANE_INLINE void Draw(const Canvas& canvas, const Track& track, int top, int b
   const Slab ends(along, along_x, along_y, -before, behind);
   const auto right = static_cast<float>(canvas.Width - 1);
 
-  // Within these nothing shows of what is below. A little less, for what the divisions round off.
+  // Within these nothing of what is below shows. They are a little smaller, since the divisions
+  // round.
   const float core = radius - 0.52f;
   const bool has_core = kEnds != kDashed && track.Width >= 1 && core > 0 &&
                         sides.Half * core > kHalfWorthFilling * reach &&
@@ -153,13 +153,13 @@ ORVANE_INLINE void Draw(const Canvas& canvas, const Track& track, int top, int b
   const Halves green_top = (Halves)((plain >> 8) & 0x00FF00FFu);
   const Ints most = Ints{} + static_cast<std::int32_t>(strength + 0.5f);
 
-  // From here on distances count in the unit of cover, `strength` to a pixel.
+  // From here on distances are in the unit of cover, `strength` to a pixel.
   const float unit_x = along_x * strength, unit_y = along_y * strength;
   const float unit_length = length * strength;
-  const float unit_reach = reach * strength + 0.5f;  // a half, since cutting rounds down
+  const float unit_reach = reach * strength + 0.5f;  // a half, since the cast rounds down
   const float unit_end = 0.5f * strength + 0.5f;
 
-  // Mixes the pixels from `first` up to `last`. More may be touched, with what covers them.
+  // Mixes the pixels from `first` up to `last`. More may be touched, each by its own cover.
   const auto mix = [&](std::uint32_t * row, float y, int first, int last)
       __attribute__((always_inline)) {
     const float down = y - start_y;
@@ -169,7 +169,7 @@ ORVANE_INLINE void Draw(const Canvas& canvas, const Track& track, int top, int b
       const Floats at = lanes + static_cast<float>(x);
       const Floats off = row_beside - at * unit_y;
       const Floats on = row_along + at * unit_x;
-      Floats inside{};  // how far within the outline, a half being on it
+      Floats inside{};  // how far within the outline; a half is on it
       if constexpr (kIsFlatStart && kIsFlatEnd) {
         inside = unit_reach - Larger(off, -off);
       } else {
@@ -220,7 +220,7 @@ ORVANE_INLINE void Draw(const Canvas& canvas, const Track& track, int top, int b
     const Pixels all = Within<kIsInside>(sides, ends, height, right);
     if (has_core && core_rows.IsMet(height) && end_rows.IsMet(height)) {
       const Pixels solid = Within<kIsInside>(core_sides, core_ends, height, right);
-      // The first may lie a little before the core.
+      // The first pixel may lie a little before the core.
       int x = solid.First + 1;
       if (solid.Last - x >= kWorthFilling) {
         mix(row, height, all.First, x);
@@ -238,7 +238,7 @@ ORVANE_INLINE void Draw(const Canvas& canvas, const Track& track) {
   const double radius = std::max(track.Width, 1.0) / 2;
   const double end_x = track.X + track.Length * track.AlongX;
   const double end_y = track.Y + track.Length * track.AlongY;
-  // How far above and below its end points a track reaches: a flat end by its corners only.
+  // How far a track reaches above and below its end points; a flat end only by its corners.
   const double round = radius + 0.5;
   const double flat = round * std::abs(track.AlongX) + 0.5 * std::abs(track.AlongY);
   const double start_reach = (kEnds & kFlatStart) != 0 ? flat : round;
@@ -247,7 +247,7 @@ ORVANE_INLINE void Draw(const Canvas& canvas, const Track& track) {
   const double high = std::max(track.Y + start_reach, end_y + end_reach);
   const int top = std::max(0, static_cast<int>(std::ceil(low)));
   const int bottom = std::min(canvas.Height - 1, static_cast<int>(std::floor(high)));
-  // The corners beyond its ends are touched too, and a few pixels to the right.
+  // The corners beyond its ends are also touched, and a few pixels to the right.
   const double corner = 1.5 * round;
   if (std::min(track.X, end_x) - corner > 0 &&
       std::max(track.X, end_x) + corner + kLanes < canvas.Width) {

@@ -10,20 +10,20 @@ namespace orvane {
 enum Ends : unsigned { kRound = 0, kFlatStart = 1, kFlatEnd = 2, kFlat = 3, kDashed = 7 };
 
 // In pixels of the canvas; a whole number is the centre of a pixel. Both ends lie no farther off
-// the canvas than the pen is wide.
+// the canvas than the width of the pen and two pixels.
 struct Track {
   double X = 0, Y = 0;            // start
   double AlongX = 1, AlongY = 0;  // direction, of length 1
   double Length = 0;
-  double Skipped = 0;  // where in its pattern a dashed one starts
-  double Width = 1;    // of the pen; one finer than a pixel draws a pixel, fainter
+  double Skipped = 0;  // where in its pattern a dashed track starts
+  double Width = 1;    // of the pen; one finer than a pixel draws a fainter pixel
   double Dash = 0;     // length of a dash and of a gap
   Colour Ink = 0;
 };
 
 void DrawTrack(const Canvas& canvas, const Track& track, Ends ends);
 
-// The two ways of it. The wide one needs a processor of which HasWideRegisters is true.
+// The two ways to draw it. The wide one needs a processor for which HasWideRegisters is true.
 bool HasWideRegisters();
 void DrawTrackNarrow(const Canvas& canvas, const Track& track, Ends ends);
 void DrawTrackWide(const Canvas& canvas, const Track& track, Ends ends);
