@@ -6,8 +6,8 @@
 namespace orvane {
 namespace {
 
-// Pairs that lie within bonding distance without a bond being meant, as first and second atom. The
-// rule has a sense: CB with H4 behind it is a bond and is drawn.
+// Pairs that lie within bonding distance but are no bond, as first and second atom. The order
+// counts: CB followed by H4 is a bond and is drawn.
 struct UnmeantPair {
   std::string_view First, Second;
 };
@@ -44,7 +44,7 @@ void TakeName(Orvane_Desk& desk, int atom) {
 
 Colour LineInk(const Orvane_Desk& desk) { return static_cast<Colour>(desk.drawing.LineColour); }
 
-// LineColour is that of atom `a` already.
+// LineColour is already that of atom `a`.
 void PaintHalves(Orvane_Desk& desk, int a, int b) {
   const Molecule& molecule = desk.molecule;
   Drawing& drawing = desk.drawing;
@@ -86,7 +86,7 @@ void PrintLabel(Orvane_Desk& desk, int atom) {
   surface.CurrentY = desk.molecule.ScrY[atom];
   surface.ForeColor = desk.colours.LabelColour;
   surface.Print(desk.molecule.AtomName[atom]);
-  surface.ForeColor = kPalette0;  // the outline of a ball takes it
+  surface.ForeColor = kPalette0;  // the outline of a ball uses it
 }
 
 void PaintBall(Orvane_Desk& desk, int atom) {
@@ -96,7 +96,7 @@ void PaintBall(Orvane_Desk& desk, int atom) {
   desk.drawing.LineColour = kPalette7;
 }
 
-// The label before the ball, which so covers the start of the text.
+// The label comes before the ball, so the ball covers the start of the text.
 void PaintAtom(Orvane_Desk& desk, int atom) {
   desk.drawing.DrawName = desk.molecule.AtomName[atom];
   if (desk.drawing.LabelsOn == 1) PrintLabel(desk, atom);
@@ -147,7 +147,8 @@ void PaintAtomFamily(Orvane_Desk& desk) {
   desk.drawing.HalfIsDouble = 0;
   if (desk.drawing.OverdrawPass != 1) ResetToBackground(desk);
 
-  // Bonds are numbered past the atoms, but never past twice their number. Both fit 16 bits or fail.
+  // There may be more bonds than atoms, but never more than twice as many. Both fit 16 bits or
+  // fail.
   const Int16 last_step = 2 * molecule.AtomCount;
   for (Int16 i = 1; i <= last_step; ++i) {
     surface.DrawWidth = desk.drawing.BondWidth;

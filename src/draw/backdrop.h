@@ -5,7 +5,7 @@
 
 namespace orvane {
 
-// Wipes Picture1 down to the background picture in force, or to its plain back colour.
+// Wipes Picture1 down to the chosen background picture, or to its plain back colour.
 void ResetToBackground(Orvane_Desk& desk);
 
 }  // namespace orvane

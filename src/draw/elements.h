@@ -11,7 +11,7 @@ namespace orvane {
 struct ElementRow {
   char Letter;
   Colour Ink;         // of bond lines and of the ball
-  double BallRadius;  // surface pixels, added to the ball size; van der Waals radii, Angstrom
+  double BallRadius;  // surface pixels, added to the ball size; van der Waals radius in Angstrom
 };
 
 // clang-format off
@@ -21,7 +21,7 @@ inline constexpr std::array kElements = {
     ElementRow{'O', Rgb(240,   0,   0), 1.4},
     ElementRow{'S', Rgb(218, 165,  32), 1.85},
     ElementRow{'P', Rgb(160,  32, 240), 1.9},
-    ElementRow{'H', Rgb(255, 255, 255), 1.2},   // its line, not its ball, is black before white
+    ElementRow{'H', Rgb(255, 255, 255), 1.2},   // its line, not its ball, is black on white
     ElementRow{'R', Rgb(255,  20, 147), 1.85},  // a whole side chain, drawn as one atom
 };
 // clang-format on

@@ -5,9 +5,9 @@
 
 namespace orvane {
 
-// One line a bond, in the colour and width left on the surface. Point b is the place of the atom
-// that bears the number of bond b, so a bond may join points that are not filled yet and stand at
-// 0, 0. Good for 1000 points; a number above fails.
+// One line for each bond, in the colour and width left on the surface. Point b is the place of the
+// atom that has the number of bond b, so a bond may join points that are not filled yet and stand
+// at 0, 0. Holds 1000 points; a number above that fails.
 void PaintFastWire(Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -34,7 +34,8 @@ void PaintPlaneLine(Orvane_Desk& desk, const PlaneLine& line, int i) {
   const Molecule& molecule = desk.molecule;
   const int a = line.ByBond ? int(molecule.BondA[i]) : i;
   const int b = line.ByBond ? int(molecule.BondB[i + line.Ahead]) : i + line.Ahead;
-  // Both names are read before either is compared: the end of the arrays counts for every i.
+  // Both names are read before either is compared: every i is checked against the end of the
+  // arrays.
   const std::string_view from = ShortName(molecule.AtomName[a]);
   const std::string_view to = ShortName(molecule.AtomName[b]);
   if (from == line.From && to == line.To) Join(desk, a, b);
@@ -49,7 +50,7 @@ void MarkPlaneAtom(Orvane_Desk& desk, int i) {
   if (FullName(name) == "CA2") drawing.PlaneCA2 = i;
 }
 
-// The marks outlive the structure in which they were seen, so the names are looked at once more.
+// The marks outlive the structure in which they were seen, so the names are checked again.
 void CloseMarkedPlane(Orvane_Desk& desk) {
   const Drawing& drawing = desk.drawing;
   const auto& names = desk.molecule.AtomName;

@@ -8,7 +8,7 @@
 namespace orvane {
 namespace {
 
-// After FitBox the names MinX, MinY hold the centre of the box, and FitScale is 1 / its largest
+// After FitBox the fields MinX, MinY hold the centre of the box, and FitScale is 1 / its largest
 // extent: a structure just loaded fills half of the surface.
 void ProjectAtoms(Molecule& molecule, const View& view) {
   for (int i = 1; i <= molecule.AtomCount; ++i) {

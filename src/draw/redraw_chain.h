@@ -11,7 +11,7 @@ namespace orvane {
 void RedrawView(Orvane_Desk& desk);
 
 // The passes alone, over ScrX, ScrY as they stand: the painter of the family, then the planes. Each
-// painter wipes by itself; a chain that wipes what it has just painted is meant so.
+// painter wipes by itself; if a chain wipes what it has just painted, that is intended.
 void RepaintPasses(Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -18,7 +18,7 @@ constexpr double kJoinedBelow = 4.0;  // Angstrom
 constexpr int kNextAlphaCarbon = 6;
 
 // Lines side by side, displaced along the screen's diagonal and not across the segment: the band
-// changes its width as the molecule turns, and that is its look.
+// changes its width as the molecule turns, and that is how it should look.
 constexpr double kThinOffsets[] = {0};
 constexpr double kRibbonOffsets[] = {-4, -2, 0, 2, 4};
 constexpr double kCartoonOffsets[] = {-4, 0, 4};
@@ -63,8 +63,8 @@ void PaintTraceFamily(Orvane_Desk& desk) {
   ResetToBackground(desk);
   for (int i = 1; i <= molecule.AtomCount; ++i) {
     if (desk.drawing.HBondShown == 1) PaintHBond(desk, i);
-    // By position, atom number as bond number: in a structure of another order nothing is found, or
-    // an alpha carbon is joined to itself, a dot.
+    // Found by position, with the atom number as bond number: in a structure with another order
+    // nothing is found, or an alpha carbon is joined to itself, which paints a dot.
     const int a = molecule.BondA[i];
     const int b = molecule.BondB[i + kNextAlphaCarbon];
     if (ShortName(molecule.AtomName[a]) != "CA" || ShortName(molecule.AtomName[b]) != "CA")

@@ -28,7 +28,8 @@ void Angle3(Orvane_Desk& desk) {
   const double bc = Length(molecule.PointB, measure.PointC);
 
   const double c = Divide(bc * bc + ab * ab - ac * ac, (ab + ab) * bc);
-  // Rounding can carry c past 1. That is one line all the same, and has no root.
+  // Rounding can carry c past 1. The points then lie on one line all the same, and there is no
+  // root.
   const double s = std::sqrt(std::max(1 - c * c, 0.0));
   measure.AngleResult = (std::atan(Divide(-c, s)) + kRightAngle) * kMeasureDegrees;
 

@@ -5,8 +5,8 @@
 
 namespace orvane {
 
-// At PointB, between PointA and PointC, into AngleResult, degrees. Empties the readout; writes the
-// new one while MeasureOn is 1. Points on one line fail.
+// The angle at PointB, between PointA and PointC, goes into AngleResult in degrees. Empties the
+// readout; writes the new one while MeasureOn is 1. Points on one line fail.
 void Angle3(Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-// The factor of angle and torsion.
+// The factor by which angles and torsions become degrees.
 #pragma once
 
 namespace orvane {

@@ -7,8 +7,8 @@
 namespace orvane {
 namespace {
 
-// Donor and acceptor count alike: either atom of the pair may bear either name. Angstrom, compared
-// in 32 bits: over Above, up to and including UpTo.
+// Donor and acceptor are treated alike: either atom of the pair may have either name. Lengths in
+// Angstrom, compared in 32 bits: over Above, up to and including UpTo.
 struct BondingPair {
   std::string_view One, Other;
   float Above, UpTo;
@@ -24,7 +24,7 @@ constexpr BondingPair kBasePairs[] = {
 // Everywhere else any nitrogen with any oxygen, by the element's letter.
 constexpr BondingPair kNitrogenOxygen[] = {{"N", "O", 2.7F, 3.1F}};
 
-// What an atom looks for in the others: a name has one partner at most.
+// What an atom looks for in the others: a name has at most one partner.
 struct Partner {
   std::string_view Name;
   const BondingPair* Row = nullptr;  // nullptr: none
@@ -38,7 +38,7 @@ Partner PartnerIn(std::span<const BondingPair> table, std::string_view name) {
   return {};
 }
 
-// How many characters of a name the tables of a mode compare; a mode that is neither 0 nor 1 has no
+// How many characters of a name the table of a mode compares; a mode that is neither 0 nor 1 has no
 // table.
 std::size_t CutWidth(int nucleic_mode) { return nucleic_mode == 1 ? 2 : 1; }
 

@@ -1,5 +1,5 @@
 // Hydrogen bonds: pairs of atoms whose names match a small table and whose distance lies in a
-// window. No hydrogen atom is looked at, no angle and no residue.
+// window. It does not look at hydrogen atoms, angles or residues.
 #pragma once
 
 #include "desk/orvane_desk.h"

@@ -7,7 +7,7 @@ namespace {
 
 constexpr float kReach = 3;  // surface pixels to each side
 
-// The bounds are those of the pointer's own 32 bits.
+// The bounds are worked out in the pointer's own 32 bits.
 bool IsWithinReach(double place, float pointer) {
   const float low = pointer - kReach;
   const float high = pointer + kReach;
@@ -15,7 +15,7 @@ bool IsWithinReach(double place, float pointer) {
   return pixel >= low && pixel <= high;
 }
 
-// A blank, or a minus, in front and a blank behind.
+// A blank or a minus in front, and a blank after it.
 std::string PrintedNumber(int number) {
   return (number < 0 ? "" : " ") + std::to_string(number) + " ";
 }
@@ -48,7 +48,7 @@ void PickAtomsAt(Orvane_Desk& desk, float x, float y) {
 
 void BeginPicks(Orvane_Desk& desk) {
   desk.measure.PickState = 0;
-  desk.walk.Picked = 0;  // what was told of the last pick is over
+  desk.walk.Picked = 0;  // what was said of the last pick no longer holds
 }
 
 void TakePick(Orvane_Desk& desk, int atom) {

@@ -5,16 +5,17 @@
 
 namespace orvane {
 
-// Whether a press at that place takes the atom: it lies in the square of 7 pixels about the
+// Whether a press at that place takes the atom: it lies in the square of 7 pixels around the
 // pointer.
 bool IsTakenAt(const Molecule& molecule, int atom, float x, float y);
 
-// Takes every atom that IsTakenAt the place, in the order of their numbers, and prints its tag
-// there: name, residue number, atom number. Atoms that lie on top of each other use
-// up a step of the cycle each. The tags stay until the next repaint.
+// Takes every atom for which IsTakenAt holds, in the order of their numbers, and prints its tag at
+// the atom: name, residue number, atom number. Of atoms that lie on top of each other, each uses up
+// a step of the cycle. The tags stay until the next repaint.
 void PickAtomsAt(Orvane_Desk& desk, float x, float y);
 
-// The next atom taken is the first: after a turn and a measurement. The places taken stay.
+// The next atom taken is the first again, as after a turn or a measurement. The points already
+// taken stay.
 void BeginPicks(Orvane_Desk& desk);
 
 // One step of the cycle 0, 1, 2, 3, 0: the atom's place as read becomes the next of the four

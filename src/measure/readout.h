@@ -1,4 +1,4 @@
-// The line of a measure in P_Dst_Show. There is one at a time.
+// The text of a measure in P_Dst_Show. There is one at a time.
 #pragma once
 
 #include <span>

@@ -35,8 +35,8 @@ void TurnAboutZ(Point& p, double h) {
 }
 
 //   a       d       Three vectors from PointB. The middle bond b is laid along z and a above the
-//    \     /        x axis; what then stands in d about z is the torsion. Vectors that are not
-//     B-b-C         looked at again are not turned along.
+//    \     /        x axis; the angle of d about z is then the torsion. Vectors that are not
+//     B-b-C         looked at again are left unturned.
 double TurnFrame(std::array<Point, 3>& frame) {
   auto& [a, b, d] = frame;
   const double f = std::atan(Divide(b.Y, b.Z));

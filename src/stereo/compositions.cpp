@@ -8,8 +8,8 @@
 namespace orvane {
 namespace {
 
-// The axis selector aside in `cells` and the vertical axis in its place, until the end of the
-// scope: also when a failure ends the composition.
+// Saves the axis selector in `cells` and puts the vertical axis in its place until the end of the
+// scope, even when a failure ends the composition.
 class VerticalAxis {
  public:
   VerticalAxis(View& view, AxisCells& cells) : view_(view), cells_(cells) {
@@ -43,7 +43,7 @@ class Overdraw {
   Drawing& drawing_;
 };
 
-// Cells that are zero outside a composition: cleared at its begin and at its end.
+// Cells that are zero outside a composition: cleared at its start and at its end.
 class EmptyOutside {
  public:
   explicit EmptyOutside(AxisCells& cells) : cells_(cells) { cells_ = {}; }

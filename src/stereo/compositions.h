@@ -14,12 +14,12 @@ inline constexpr double kMirrorAngle = 180.0;  // a half turn shows the mirrored
 // repaints.
 void ComposeStereoPair(Orvane_Desk& desk);
 
-// The same for the second pair of images, without the repaint before the first picture. Reached
-// from nowhere; kept ready for a second pair.
+// The same for the second pair of images, without the repaint before the first picture. Nothing
+// calls it; it is kept ready for a second pair.
 void ComposeStereoPairB(Orvane_Desk& desk);
 
-// L_Img: the view as it stands; R_Img: its half turn. While D/L Str is on the turns and repaints
-// run and the images keep what they hold. Each half is a red-green picture while that is on.
+// L_Img: the view as it stands; R_Img: its half turn. While D/L Str is on, the turns and repaints
+// run but the images keep what they hold. Each half is a red-green picture while that view is on.
 void ComposeEnantiomerPair(Orvane_Desk& desk);
 
 // Paints the view turned by the angle between the eyes in red, then the unturned view in green over

@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-// Which of the three tests a command's tail has; they differ on purpose.
+// Which of the three tests a command's tail makes; they differ on purpose.
 enum class Tail {
   All,                // stereo, enantiomers, red-green
   PairsOnly,          // stereo, enantiomers: the ribbon and the labels

@@ -5,8 +5,8 @@
 
 namespace orvane {
 
-// The coordinates as read, and the four bars back. A bar that stood elsewhere runs its change
-// event: VScroll1 so gives the molecule one step of turn.
+// Restores the coordinates as read and sets the four bars back. A bar that stood elsewhere runs its
+// change event, so VScroll1 gives the molecule one step of turn.
 void ResetView(Orvane_Desk& desk);
 
 }  // namespace orvane

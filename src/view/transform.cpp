@@ -20,7 +20,7 @@ void TurnEveryAtom(Molecule& molecule, const View& view) {
   }
 }
 
-// Steps that go away from the middle of their bar are told from those that come back by size alone.
+// Only size tells the steps that go away from the middle of their bar from those that come back.
 void NegateIf(bool condition, Int16& step) {
   if (condition) step = -step;
 }
@@ -38,7 +38,7 @@ void BuildTurn(View& view, const Molecule& molecule) {
   const double b = view.AxisY == 1 ? to.Y - from.Y : 0;
   const double c = view.AxisZ == 1 ? to.Z - from.Z : 0;
   const double r = std::sqrt(a * a + b * b + c * c);
-  const double i = r == 0 ? 0 : 1 / r;  // the one division by zero that is let pass
+  const double i = r == 0 ? 0 : 1 / r;  // the one division by zero that is allowed
   const double u = a * i;
   const double v = b * i;
   const double w = c * i;
@@ -97,7 +97,8 @@ void ZoomAll(Orvane_Desk& desk) {
 
 void SpinStep(Orvane_Desk& desk) {
   View& view = desk.view;
-  // The end of the bar wraps to its start: a whole step runs inside, and its SpinNow counts.
+  // The end of the bar wraps to its start: a whole step runs inside the setter, and its SpinNow
+  // counts.
   if (view.SpinNow == -360) desk.main.VScroll1.SetValue(1);
   NegateIf(std::abs(view.SpinNow) > std::abs(view.SpinPrev), view.SpinNow);
   view.TurnAngle = view.SpinNow < 0 ? -kSpinDegrees : kSpinDegrees;

@@ -7,10 +7,10 @@
 
 namespace orvane {
 
-// Axis and angle to RotM. TurnAngle is degrees on entry and radians afterwards. The axis runs from
-// PointB to PointA in the live components alone, so its sign, and with it the sense of the turn, is
-// that of what earlier operations left in the two points. Without any length there is no axis, and
-// the matrix shrinks by the cosine instead of turning.
+// Builds RotM from axis and angle. TurnAngle is degrees on entry and radians afterwards. The axis
+// runs from PointB to PointA in the live components alone. So what earlier operations left in the
+// two points decides its sign and with it the sense of the turn. If it has no length there is no
+// axis, and the matrix shrinks by the cosine instead of turning.
 void BuildTurn(View& view, const Molecule& molecule);
 
 // Applies RotM to PointA about the pivot.
@@ -20,7 +20,7 @@ void TurnPoint(Molecule& molecule, const View& view);
 // PointA.
 void RotateAll(Orvane_Desk& desk);
 
-// ZoomFactor to RotM.
+// Builds RotM from ZoomFactor.
 void BuildZoom(View& view);
 
 // One zoom step to ZoomNow, which is minus the value of ZoomBar: 1.1 towards a higher value, 0.9
@@ -31,7 +31,7 @@ void ZoomAll(Orvane_Desk& desk);
 // way round when the same value comes again, and 0 at 0.
 void SpinStep(Orvane_Desk& desk);
 
-// Moves the picture by the whole value of the bar, not by its difference to the last, and paints
+// Moves the picture by the whole value of the bar, not by its difference from the last, and paints
 // without projecting.
 void ShiftAllX(Orvane_Desk& desk);
 void ShiftAllY(Orvane_Desk& desk);

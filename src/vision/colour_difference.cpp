@@ -20,7 +20,7 @@ double HueOf(double a, double b) {  // degrees, 0 to 360
   return hue < 0 ? hue + 360 : hue;
 }
 
-// A share of the chroma that is near 0 for quiet colours and near 1 for strong ones.
+// A factor that is near 0 for pale colours and near 1 for strong ones.
 double Strong(double chroma) {
   const double seventh = std::pow(chroma, 7);
   return std::sqrt(seventh / (seventh + std::pow(25.0, 7)));
@@ -40,7 +40,7 @@ double MiddleHue(double first, double second) {
 }  // namespace
 
 Lab LabOf(Light light) {
-  // The primaries of sRGB in CIE XYZ, over the white of D65.
+  // The primaries of sRGB in CIE XYZ, divided by the white of D65.
   const double x =
       (0.4124564 * light.Red + 0.3575761 * light.Green + 0.1804375 * light.Blue) / 0.95047;
   const double y = 0.2126729 * light.Red + 0.7151522 * light.Green + 0.0721750 * light.Blue;

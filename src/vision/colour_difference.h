@@ -13,8 +13,8 @@ struct Lab {
 
 Lab LabOf(Light light);
 
-// CIEDE2000 with all weights 1. About 1 is the least that is seen between two large fields side by
-// side.
+// CIEDE2000 with all weights 1. About 1 is the least that can be seen between two large fields side
+// by side.
 double Difference(const Lab& first, const Lab& second);
 
 // Between two colours as that eye sees them.

@@ -26,7 +26,7 @@ namespace {
 
 constexpr std::size_t kKept = 4096;  // a power of two
 
-// A colour as a grey, with chroma of a hue upon it: grey + chroma * ink.
+// A colour split into a grey and the chroma of a hue: grey + chroma * ink.
 struct Split {
   int Grey = 0;  // the least channel
   int Chroma = 0;
@@ -60,7 +60,7 @@ DisplayFilter::DisplayFilter(Eye eye) : kept_(kKept) {
     stops_.push_back({split.Hue, {part(Red(shown)), part(Green(shown)), part(Blue(shown))}});
   }
   std::ranges::sort(stops_, {}, &Stop::Hue);
-  // The circle of hues is closed: the last one stands before the first too, the first behind the
+  // The hues form a circle: the last one also stands before the first, and the first after the
   // last.
   Stop before = stops_.back(), behind = stops_.front();
   before.Hue -= 6;

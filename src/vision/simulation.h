@@ -6,16 +6,16 @@
 
 namespace orvane {
 
-// Light that is sent out, 0 to 1 for each channel, twice as much for twice the number.
+// Emitted light, 0 to 1 for each channel; twice the number is twice the light.
 struct Light {
   double Red = 0, Green = 0, Blue = 0;
 };
 
 Light LightOf(Colour colour);  // by the curve of sRGB
-Colour ColourOf(Light light);  // the nearest; what no screen can show is cut off
+Colour ColourOf(Light light);  // the nearest; what no screen can show is clipped
 
-// The light that looks to everybody as this one does to that eye. Red, green and blue stay between
-// 0 and 1, as on a screen.
+// The light that looks to everybody the way this one looks to that eye. Red, green and blue stay
+// between 0 and 1, as on a screen.
 Light Simulated(Eye eye, Light light);
 
 inline Colour Simulated(Eye eye, Colour colour) {
