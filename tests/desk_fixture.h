@@ -1,4 +1,4 @@
-// A desk for a test, with the main window showing as after the start chain.
+// A desk for a test, with the main window shown as after the start chain.
 #pragma once
 
 #include <memory>

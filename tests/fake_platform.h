@@ -1,4 +1,4 @@
-// A platform that keeps what was shown and answers from a list: what tests of the desk stand on.
+// A platform that keeps what was shown and answers from a list, for tests of the desk.
 #pragma once
 
 #include <deque>

@@ -36,7 +36,7 @@ struct BackgroundCommandsTest : testing::Test, PlacedAtoms, SurfaceTrace, Contro
     return std::exchange(calls, {});
   }
 
-  // Opens the frame, types, and takes the colour.
+  // Opens the frame, types three values, and accepts the colour.
   Calls Mix(const char* red, const char* green, const char* blue) {
     Click(desk, main.COL_RGB);
     TypeText(desk, main.RGB_V[0], red);
@@ -83,7 +83,7 @@ TEST_F(BackgroundCommandsTest, APictureOpensTheCommandsThatNeedAStructure) {
   EXPECT_EQ(desk.molecule.MoleculeReady, 1);
 }
 
-TEST_F(BackgroundCommandsTest, NoneAsksWhetherSomethingVanishes) {
+TEST_F(BackgroundCommandsTest, NoneChecksWhetherSomethingVanishes) {
   desk.colours.PenColour = kPalette15;
   desk.colours.PlaneColour = kPalette0;
   After(main.Wt_Cl);
@@ -143,7 +143,7 @@ struct Typed {
   int Value;
 };
 
-TEST_F(BackgroundCommandsTest, WhatIsANumberIsTakenRoundedAndCutAt255) {
+TEST_F(BackgroundCommandsTest, ANumberIsRoundedAndClippedTo255) {
   constexpr Typed kRows[] = {
       {"0", 0},     {" 17 ", 17}, {"+5", 5},     {"2.5", 2},     {"3.5", 4},  {"1e2", 100},
       {"255", 255}, {"256", 255}, {"1000", 255}, {"32767", 255}, {"-0.4", 0}, {"1e-400", 0},
@@ -155,14 +155,14 @@ TEST_F(BackgroundCommandsTest, WhatIsANumberIsTakenRoundedAndCutAt255) {
   EXPECT_TRUE(platform.Effects.empty());
 }
 
-TEST_F(BackgroundCommandsTest, WhatIsNoNumberIsNamedAndTheColourStays) {
+TEST_F(BackgroundCommandsTest, WhatIsNotANumberIsNamedAndTheColourStays) {
   desk.colours.BackgroundIndex = 1;
   for (const char* text : {"", " ", "red", "12x", "0x10", "1 2", "-1", "-32768", "-40000", "32768",
                            "1e9", "1e400", "1,5"}) {
     main.Picture1.SetBackColor(Rgb(1, 2, 3));
     main.Picture1.Print("old");
     platform.Effects.clear();
-    // The third box is the wrong one: the first two have been read, and nothing has changed.
+    // The third box is wrong. The first two have been read, and yet nothing has changed.
     EXPECT_EQ(Mix("9", "9", text), Calls{"wipe -1"}) << text;
 
     ASSERT_EQ(platform.Effects.size(), 1u) << text;

@@ -11,7 +11,7 @@ namespace {
 
 const double kStep = 10 * std::acos(-1.0) / 180;
 
-// The first two atoms lie across the pivot from the last two: box centre and pivot are 0, 0, 0.
+// The first two atoms lie opposite the last two, so box centre and pivot are 0, 0, 0.
 struct BarsTest : testing::Test, DeskAtWork {
   BarsTest() {
     Load(desk, Record("N", -2, -1, -1) + Record("O", 2, -1, 1) + Record("N", -2, 1, -1) +
@@ -19,7 +19,7 @@ struct BarsTest : testing::Test, DeskAtWork {
     PointUp();
   }
 
-  // The axis of the next turn runs up along y, as PointA over PointB.
+  // Makes the axis of the next turn run up along y, with PointA above PointB.
   void PointUp() {
     desk.molecule.PointB = {0, -5, 0};
     desk.molecule.PointA = {0, 5, 0};
@@ -27,7 +27,8 @@ struct BarsTest : testing::Test, DeskAtWork {
   double FromPivot(int i) const {
     return std::hypot(desk.molecule.CurX[i], desk.molecule.CurY[i], desk.molecule.CurZ[i]);
   }
-  // How far the last atom stands turned about y from its place as read: positive from z towards x.
+  // The angle about y by which the last atom has turned since it was read: positive from z towards
+  // x.
   double Turned() const {
     const Molecule& m = desk.molecule;
     return std::atan2(m.CurX[4], m.CurZ[4]) - std::atan2(m.AtomX[4], m.AtomZ[4]);
@@ -123,7 +124,7 @@ TEST_F(BarsTest, AValueThatComesAgainTurnsBack) {
   const double before = Turned();
   DragBar(desk, desk.main.VScroll1, 60);
   EXPECT_NEAR(Turned() - before, kStep, 1e-12);
-  DropBar(desk, desk.main.VScroll1);  // the thumb is let go at the value it has
+  DropBar(desk, desk.main.VScroll1);  // the thumb is released at the same value
 
   EXPECT_NEAR(Turned(), before, 1e-12);
 }
@@ -138,8 +139,8 @@ TEST_F(BarsTest, TheEndOfTheTurnBarWrapsWithAStepInside) {
   const double before = Turned();
   StepBar(desk, desk.main.VScroll1, 360);
 
-  // The step inside goes down from 350 to 1 and turns by -10; then the same value counts again,
-  // -10.
+  // The inner step goes down from 350 to 1 and turns by -10. Then the same value comes again:
+  // another -10.
   EXPECT_EQ(desk.main.VScroll1.Value, 1);
   EXPECT_EQ(desk.view.SpinNow, -1);
   EXPECT_EQ(desk.view.SpinPrev, -1);
@@ -151,7 +152,7 @@ TEST_F(BarsTest, TheWrapWithoutAStructureBeepsInsideAndTurnsUp) {
   desk.view.SpinPrev = -350;
   DragBar(desk, desk.main.VScroll1, 360);
 
-  // The change inside refuses, so SpinNow is still the -360 of the scroll.
+  // The inner change is refused, so SpinNow is still the -360 of the scroll.
   EXPECT_EQ(platform.Effects, std::vector<std::string>{"beep"});
   EXPECT_EQ(desk.view.SpinPrev, 360);
   EXPECT_NEAR(Turned(), kStep, 1e-12);

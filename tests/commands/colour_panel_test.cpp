@@ -42,7 +42,8 @@ struct ColoursTest : testing::Test, PlacedAtoms, SurfaceTrace, ControlWatcher {
     if (aspect == Aspect::Front) brought.push_back(&control);
   }
 
-  // As a user: the menu entry, then a press and a click on the swatch. What the surface was asked.
+  // Does what a user does: the menu entry, then a press and a click on the swatch. Returns the
+  // calls on the surface.
   std::vector<std::string> Choose(MenuEntry& entry, std::size_t swatch, int button = kLeftButton) {
     Click(desk, entry);
     calls.clear();
@@ -51,7 +52,7 @@ struct ColoursTest : testing::Test, PlacedAtoms, SurfaceTrace, ControlWatcher {
     return std::exchange(calls, {});
   }
 
-  // A bond of two alpha carbons that the trace painter finds, too.
+  // A bond of two alpha carbons, which the trace painter finds too.
   void TwoCarbons() {
     Atom("  CA ", 0, 0);
     Atom("  CA ", 10, 0);
@@ -59,7 +60,7 @@ struct ColoursTest : testing::Test, PlacedAtoms, SurfaceTrace, ControlWatcher {
     desk.molecule.BondB[7] = 1;
     desk.molecule.BondB[8] = 0;
   }
-  // The marked peptide bond, one line of the plane painter.
+  // The marked peptide bond: the plane painter draws one line for it.
   void MarkedBond() {
     Atom("  C! ", 0, 0);
     Atom("  N! ", 10, 0);
@@ -168,7 +169,7 @@ TEST_F(ColoursTest, ACartoonIsColouredAsATrace) {
   EXPECT_EQ(colours.ColourByElement, 1);
 }
 
-TEST_F(ColoursTest, ARibbonKeptInMindIsPaintedAndWipedByTheAtoms) {
+TEST_F(ColoursTest, ARememberedRibbonIsPaintedAndWipedByTheAtoms) {
   TwoCarbons();
   Click(desk, main.M_Rbn, Reach::Forced);
   Click(desk, main.M_Stk, Reach::Forced);
@@ -179,7 +180,7 @@ TEST_F(ColoursTest, ARibbonKeptInMindIsPaintedAndWipedByTheAtoms) {
   EXPECT_EQ(colours.ColourByElement, 0);
 }
 
-TEST_F(ColoursTest, ACartoonKeptInMindInTheAtomFamilyPaintsNothing) {
+TEST_F(ColoursTest, ARememberedCartoonPaintsNothingInTheAtomFamily) {
   TwoCarbons();
   drawing.CartoonOn = 1;
   EXPECT_EQ(Choose(main.MlClr, kYellowSwatch), Calls{});
@@ -187,7 +188,7 @@ TEST_F(ColoursTest, ACartoonKeptInMindInTheAtomFamilyPaintsNothing) {
   EXPECT_EQ(colours.ColourByElement, 1);
 }
 
-TEST_F(ColoursTest, PlanesComeBehindTheCompositionsOfAMoleculeColour) {
+TEST_F(ColoursTest, PlanesComeAfterTheCompositionsOfAMoleculeColour) {
   MarkedBond();
   drawing.PlanesOnly = 1;  // and PeptideOn 0: the passes run no plane painter
   desk.stereo.StereoOn = 1;
@@ -258,10 +259,10 @@ TEST_F(ColoursTest, ABackgroundWipesThenTakesItsColourThenPaints) {
 
 TEST_F(ColoursTest, ABackgroundOfAnyColourInUseIsRefused) {
   TwoCarbons();
-  colours.PenColour = kWhite;  // counts although the atoms show element colours
+  colours.PenColour = kWhite;  // counts even though the atoms show element colours
   EXPECT_EQ(Choose(main.ClPlt, kWhiteSwatch), Calls{});
   colours.PenColour = kPalette7;
-  colours.PlaneColour = kWhite;  // counts although no planes are shown
+  colours.PlaneColour = kWhite;  // counts even though no planes are shown
   EXPECT_EQ(Choose(main.ClPlt, kWhiteSwatch), Calls{});
   colours.PlaneColour = kPalette3;
   drawing.LabelsOn = 1;  // labels are white at the start
@@ -277,8 +278,8 @@ TEST_F(ColoursTest, TheLabelColourCountsOnlyWhileLabelsAreOn) {
   EXPECT_TRUE(platform.Effects.empty());
 }
 
-TEST_F(ColoursTest, TheBackgroundsOwnColourIsTakenOnceMore) {
-  Choose(main.ClPlt, kBlackSwatch);  // the clash of the other targets is not asked
+TEST_F(ColoursTest, TheBackgroundsOwnColourIsAcceptedAgain) {
+  Choose(main.ClPlt, kBlackSwatch);  // the check of the other targets does not run
   EXPECT_TRUE(platform.Effects.empty());
 }
 

@@ -1,4 +1,4 @@
-// The table of keys: no key twice, each does what its control does.
+// The table of keys: no key is there twice, and each does what its control does.
 #include "commands/desk_keys.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ struct PictureKeys : DeskAtWork, testing::Test {
   }
 };
 
-TEST(DeskKeysTable, NamesEachKeyOnceAtAPlaceAndNoneOfTheDeskAgainOnThePicture) {
+TEST(DeskKeysTable, NamesNoKeyTwiceAtAPlaceAndNoDeskKeyAgainOnThePicture) {
   std::set<std::pair<KeyPlace, std::string_view>> seen;
   for (const DeskKey& key : DeskKeys()) {
     for (const std::string_view name : {key.Key, key.Other}) {
@@ -39,7 +39,7 @@ TEST(DeskKeysTable, NamesEachKeyOnceAtAPlaceAndNoneOfTheDeskAgainOnThePicture) {
   }
 }
 
-TEST(DeskKeysTable, TellsOfEachKeyInOneClauseThatFitsASheet) {
+TEST(DeskKeysTable, DescribesEachKeyInOneClauseThatFitsASheet) {
   for (const DeskKey& key : DeskKeys()) {
     EXPECT_NE(key.Do, nullptr) << key.Key;
     EXPECT_FALSE(key.Group.empty()) << key.Key;
@@ -50,7 +50,7 @@ TEST(DeskKeysTable, TellsOfEachKeyInOneClauseThatFitsASheet) {
   }
 }
 
-// A letter of a menu is taken with Alt, and with Alt no key of the table is.
+// Alt and a letter opens a menu, so no key of the table uses Alt.
 TEST(DeskKeysTable, HasNoKeyWithAltOrControl) {
   for (const DeskKey& key : DeskKeys()) {
     EXPECT_EQ(key.Key.find("Alt"), std::string_view::npos) << key.Key;
@@ -82,13 +82,13 @@ constexpr BarKey kBarKeys[] = {
     {",", &MainWindow::Rt_speed, 10},
 };
 
-TEST_F(PictureKeys, StepTheBarsAndThePictureFollowsAsFromABar) {
+TEST_F(PictureKeys, StepTheBarsAndThePictureFollows) {
   for (const BarKey& key : kBarKeys) {
     DeskAtWork by_bar;
     SelectRow(by_bar.desk, by_bar.desk.main.Pro_Lst, kAlphaHelix);
     DeskAtWork by_key;
     SelectRow(by_key.desk, by_key.desk.main.Pro_Lst, kAlphaHelix);
-    // From the middle of the way, so that there is room on both sides.
+    // From the middle of the range, so that there is room on both sides.
     for (DeskAtWork* work : {&by_bar, &by_key}) {
       if (key.Bar == &MainWindow::VScroll1) StepBar(work->desk, work->desk.main.VScroll1, 101);
     }
@@ -174,7 +174,7 @@ TEST_F(PictureKeys, DoNothingWhereTheControlIsOffLimits) {
 }
 
 // Every key of the picture is in one of the two lists above, or walks.
-TEST_F(PictureKeys, AreAllHeldByATest) {
+TEST_F(PictureKeys, AreAllCoveredByATest) {
   std::set<std::string_view> held{"N", "P", "Home", "End", "Space", "Enter"};
   for (const BarKey& key : kBarKeys) held.insert(key.Key);
   for (const ControlKey& key : kControlKeys) held.insert(key.Key);
@@ -215,7 +215,7 @@ TEST_F(PictureKeys, EscapeClosesTheMap) {
   EXPECT_FALSE(desk.plot.Visible);
 }
 
-// Hears where the keyboard is sent.
+// Notes where the keyboard is sent.
 struct FocusHeard : ControlWatcher {
   const Control* Last = nullptr;
   void Changed(Control& control, Aspect aspect) override {
@@ -223,7 +223,7 @@ struct FocusHeard : ControlWatcher {
   }
 };
 
-TEST_F(PictureKeys, F6GoesToWhatStandsInThePicturesPlace) {
+TEST_F(PictureKeys, F6GoesToWhatIsShownInThePicturesPlace) {
   FocusHeard heard;
   desk.main.Watcher = &heard;
   PressOn("F6", KeyPlace::Desk);
@@ -235,7 +235,7 @@ TEST_F(PictureKeys, F6GoesToWhatStandsInThePicturesPlace) {
   desk.main.Watcher = nullptr;
 }
 
-// The order of the others stays as it is laid down.
+// The order of the other controls is fixed and stays.
 TEST(DeskKeysTable, ThePictureAndThePairAreTheLastStopsOfTheTabOrder) {
   std::map<std::string_view, int> stops;
   int last_of_the_others = 0;

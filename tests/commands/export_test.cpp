@@ -1,4 +1,4 @@
-// What a save command writes, from what, and under which names.
+// What a save command writes, from where, and under which names.
 
 #include "commands/export.h"
 
@@ -14,7 +14,7 @@ namespace {
 using Lines = std::vector<std::string>;
 
 struct Export : DeskAtWork, testing::Test {
-  // The effects of a save with that answer to the box.
+  // The effects of a save when the box gets that answer.
   Lines Save(Control& entry, const std::string& answer) {
     platform.Effects.clear();
     platform.Answers = {answer};
@@ -35,12 +35,12 @@ TEST_F(Export, ANameOfOneToThreeLettersIsWritten) {
   EXPECT_EQ(Save(desk.main.S_Gif, "no").back(), "save GIF no.gif Picture1");
 }
 
-TEST_F(Export, LettersAreCountedAndNotBytes) {
+TEST_F(Export, LettersAreCountedNotBytes) {
   EXPECT_EQ(Save(desk.main.S_bmp, "äöü").back(), "save BMP äöü.bmp Picture1");
   EXPECT_EQ(Save(desk.main.S_bmp, "äöüß").size(), 1U);
 }
 
-TEST_F(Export, LongerNamesWriteNothingWithTheirSuffixOrWithout) {
+TEST_F(Export, LongerNamesWriteNothingWithOrWithoutTheirSuffix) {
   for (const char* name : {"abcd", "abc.bmp", "a.bmp", "picture", "x.jpeg"}) {
     EXPECT_EQ(Save(desk.main.S_bmp, name).size(), 1U) << name;  // the question alone
   }
@@ -99,7 +99,7 @@ TEST_F(Export, ANameWithASeparatorIsRefusedInPlainWords) {
   }
 }
 
-TEST_F(Export, TheHourglassStandsWhileTheNameIsAskedFor) {
+TEST_F(Export, TheHourglassShowsWhileTheNameIsAskedFor) {
   struct Looking : FakePlatform {
     Orvane_Desk* desk = nullptr;
     int pointer = -1;

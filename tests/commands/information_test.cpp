@@ -27,7 +27,7 @@ TEST_F(Starting, TheSplashShowsAndTheMainWindowIsHidden) {
   EXPECT_FALSE(desk.author.Visible);
 }
 
-TEST_F(Starting, TheWayLeadsFromTheSplashOverTheOverviewToTheDesk) {
+TEST_F(Starting, TheWayLeadsFromTheSplashThroughTheOverviewToTheDesk) {
   Click(desk, desk.front.Get_in);
   EXPECT_FALSE(desk.front.Visible);
   EXPECT_TRUE(desk.content.Visible);
@@ -60,7 +60,7 @@ TEST_F(Starting, ClosingTheSplashOrTheFirstOverviewEndsTheProgram) {
   EXPECT_EQ(platform.Effects, std::vector<std::string>{"end"});
 }
 
-TEST_F(Starting, OnceTheDeskWasReachedClosingTheOverviewLeadsBackToIt) {
+TEST_F(Starting, OnceTheDeskIsReachedClosingTheOverviewLeadsBackToIt) {
   Click(desk, desk.front.Get_in);
   Click(desk, desk.content.Get_in);
   Click(desk, desk.main.WatN);
@@ -82,7 +82,7 @@ TEST_F(Starting, ClosingThePlotOnlyHidesIt) {
 }
 
 TEST_F(Starting, FromTheMenuTheAuthorWindowLeadsBackToTheDesk) {
-  Click(desk, desk.front.Author);  // the flag is set here and taken back at the way in
+  Click(desk, desk.front.Author);  // the flag is set here and cleared on the way in
   Click(desk, desk.author.Get_in);
   Click(desk, desk.front.Get_in);
   Click(desk, desk.content.Get_in);
@@ -152,7 +152,7 @@ TEST_F(Starting, TheAnimationsAreWhatTheirMakerDraws) {
   EXPECT_TRUE(kept("author.frames") == AuthorFrameAsBytes());
 }
 
-// In a box of 132 by 164 pixels a picture 360 wide is 447 high.
+// For a box of 132 by 164 pixels, a picture 360 wide is 447 high.
 TEST_F(Starting, TheAuthorWindowShowsAWholeAlanineInItsMiddle) {
   DeskAtWork work;
   SelectRow(work.desk, work.desk.main.AA_Lst, 2);

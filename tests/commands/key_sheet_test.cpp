@@ -66,7 +66,7 @@ TEST(TheKeySheet, ShowsEachElementInItsColour) {
   }
 }
 
-TEST(TheKeySheet, TellsHowAPairAndARedGreenPictureAreLookedAt) {
+TEST(TheKeySheet, SaysHowToLookAtAPairAndARedGreenPicture) {
   const std::string text = KeySheetText();
   EXPECT_THAT(text, HasSubstr("parallel: look through the screen until the left eye has the left"));
   EXPECT_THAT(text, HasSubstr("crossed: look at a finger"));

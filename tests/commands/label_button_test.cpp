@@ -47,7 +47,7 @@ TEST_F(LabelsTest, OnWhiteTheMessageComesWhateverTheLabelColour) {
   EXPECT_EQ(Clicked(), "Print 10 20 #ff0000 \"  CA \"\n");
   EXPECT_EQ(platform.Effects, std::vector<std::string>{kLabelsOnWhite});
   Clicked();
-  EXPECT_EQ(platform.Effects.size(), 1u);  // none when they go
+  EXPECT_EQ(platform.Effects.size(), 1u);  // no message when they go
 }
 
 TEST_F(LabelsTest, OverAPictureNoMessageComes) {
@@ -58,7 +58,7 @@ TEST_F(LabelsTest, OverAPictureNoMessageComes) {
   EXPECT_TRUE(platform.Effects.empty());
 }
 
-TEST_F(LabelsTest, WhiteBehindWhiteLabelsIsNotRemarkedOn) {
+TEST_F(LabelsTest, WhiteBehindWhiteLabelsGivesNoMessage) {
   Clicked();
   Click(desk, desk.main.Wt_Cl, Reach::Forced);
 
@@ -93,7 +93,7 @@ TEST_F(LabelsTest, AMeasureTurnsLabelsOffAndTheCaptionStays) {
   EXPECT_EQ(desk.main.Bt3_Label.Caption, "Label On");
 }
 
-TEST_F(LabelsTest, ThePairsAreComposedAnewAndTheRedGreenPictureIsNot) {
+TEST_F(LabelsTest, ThePairsAreComposedAgainAndTheRedGreenPictureIsNot) {
   desk.stereo.RedGreenOn = 1;
   const Colour pen = desk.colours.PenColour;
   Clicked();

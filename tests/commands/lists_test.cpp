@@ -14,7 +14,7 @@ namespace {
 
 using namespace catalogue;
 
-// Chooses the row that begins so.
+// Chooses the row that begins like this.
 void Select(DeskAtWork& work, List& list, std::string_view beginning) {
   const auto& rows = list.Rows.Get();
   for (std::size_t row = 0; row < rows.size(); ++row) {
@@ -47,7 +47,7 @@ TEST(Catalogue, NoRowIsChosenAtTheStart) {
 }
 
 TEST(Catalogue, EveryRowEndsInAPictureWithItsNameInTheTitle) {
-  // Column from which the title reads on.
+  // Column of the row at which the title begins.
   struct Case {
     List MainWindow::*Rows;
     std::size_t TitleFrom;
@@ -69,7 +69,7 @@ TEST(Catalogue, EveryRowEndsInAPictureWithItsNameInTheTitle) {
   }
 }
 
-// Every key of a list's rows, in capitals, has a text and every text a row.
+// Every key of a list's rows, in capitals, has a text, and every text has a row.
 void ExpectKeysMatch(std::span<const std::string_view> rows, int width,
                      std::span<const StockRow> stock, std::span<const std::string_view> generated) {
   std::set<std::string> wanted, offered;
@@ -103,7 +103,7 @@ TEST(Catalogue, TheGeneralAminoAcidIsNotGenerated) {
   EXPECT_EQ(work.desk.stock.AminoKey, "Gen");
 }
 
-TEST(Catalogue, KeysAreKeptAsTheyStandInTheRow) {
+TEST(Catalogue, KeysAreKeptAsTheRowHasThem) {
   DeskAtWork work;
   Select(work, work.desk.main.Pro_Lst, "Alfa");
   EXPECT_EQ(work.desk.stock.ProKey, "Alfa");
@@ -121,7 +121,7 @@ TEST(Catalogue, AStrandTurnsTheBasePairsOnAndKeepsTheBlankInItsTitle) {
   DeskAtWork work;
   Select(work, work.desk.main.DNA_Lst, "S1DNA");
   EXPECT_EQ(work.desk.drawing.NucleicMode, 1);
-  // The prefix ends in a blank, and the row's own follows.
+  // The prefix ends in a blank, and the row's own blank follows.
   EXPECT_EQ(work.desk.main.Caption, "Orvane (OVN) v2.0:  Single stranded DNA");
 
   Select(work, work.desk.main.Nuc_Lst, "RIB");
@@ -137,7 +137,7 @@ TEST(Catalogue, TheDoubleStrandIsBothStrandsInOneText) {
   EXPECT_EQ(work.desk.molecule.MolText, work.desk.stock.TextDna3);
 }
 
-TEST(Catalogue, ThePolyalanineStrandHasItsLastResidueTwiceOnOneSpot) {
+TEST(Catalogue, ThePolyalanineStrandHasItsLastResidueTwiceInOnePlace) {
   DeskAtWork work;
   Select(work, work.desk.main.Pro_Lst, "Betb");
 
@@ -180,7 +180,7 @@ std::string MenuState(const Orvane_Desk& desk) {
          std::to_string(desk.drawing.NucleicMode);
 }
 
-TEST(Catalogue, EachKindOfStructureOpensItsOwnMenus) {
+TEST(Catalogue, EachKindOfStructureEnablesItsOwnMenus) {
   struct Case {
     List MainWindow::*Rows;
     const char* Row;
@@ -209,7 +209,7 @@ TEST(Catalogue, EachKindOfStructureOpensItsOwnMenus) {
   }
 }
 
-TEST(Catalogue, OpbStaysOpenAfterAPolypeptideAndAnAminoAcidClosesIt) {
+TEST(Catalogue, OpbStaysEnabledAfterAPolypeptideAndAnAminoAcidDisablesIt) {
   DeskAtWork work;
   Select(work, work.desk.main.Pro_Lst, "Alfb");
   Select(work, work.desk.main.Pro_Lst, "Alfa");
@@ -218,7 +218,7 @@ TEST(Catalogue, OpbStaysOpenAfterAPolypeptideAndAnAminoAcidClosesIt) {
   EXPECT_FALSE(work.desk.main.OPB.Enabled);
 }
 
-TEST(Catalogue, ThePlotIsClosedToPolyalanine) {
+TEST(Catalogue, ThePlotIsDisabledForPolyalanine) {
   DeskAtWork work;
   Select(work, work.desk.main.Pro_Lst, "Alfa");
   EXPECT_TRUE(work.desk.main.RCDP.Enabled);

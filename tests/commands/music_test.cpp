@@ -49,7 +49,7 @@ TEST_F(Sound, ADriveIsListedInTheOtherTwoAndAFolderInTheFilesOnly) {
   OpenFolder(desk, desk.main.Dir1, "/media/stick/tunes");
   EXPECT_EQ(desk.main.Drive1.Path.Get(), "/media/stick");
   EXPECT_EQ(desk.main.File1.Path.Get(), "/media/stick/tunes");
-  EXPECT_EQ(desk.main.File1.FileName.Get(), "");  // it was a file of another folder
+  EXPECT_EQ(desk.main.File1.FileName.Get(), "");  // it was a file in another folder
 }
 
 TEST_F(Sound, NoFileIsChosenWhileTheChooserIsHidden) {

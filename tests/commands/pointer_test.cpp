@@ -125,14 +125,14 @@ TEST_F(PointerTest, OfSeveralSavedAxesTheFirstStays) {
   EXPECT_EQ(desk.view.AxisZ, 0);
 }
 
-TEST_F(PointerTest, AnAxisOtherThan1IsNoneToAPress) {
+TEST_F(PointerTest, ForAPressAnAxisOtherThan1IsNone) {
   desk.view.AxisY = 2;
   Press(desk, surface, kRightButton, 0, 0);
 
   EXPECT_EQ(desk.view.SavedAxisY, 0);
 }
 
-TEST_F(PointerTest, WithoutAStructureADragTurnsNothingInSilence) {
+TEST_F(PointerTest, WithoutAStructureADragSilentlyTurnsNothing) {
   desk.molecule.MoleculeReady = 0;
   Drag(50, 50, 90, 90);
 
@@ -164,8 +164,8 @@ TEST_F(PointerTest, AnAxisTagIsPressedAndTheOthersAreRaised) {
 }
 
 TEST_F(PointerTest, TenThousandDragsKeepTheDistancesOfTheAtoms) {
-  // The presses stay off the atoms, which lie within 111 pixels of the middle: a pick would move
-  // the ends of the axis, and two ends in one place shrink.
+  // The presses miss the atoms, which lie within 111 pixels of the middle. A pick would move the
+  // ends of the axis, and with both ends in one place the structure would shrink.
   std::mt19937 random(20);
   std::uniform_real_distribution<float> place(0, 360), margin(0, 60);
   for (int drag = 0; drag < 10000; ++drag) {

@@ -1,4 +1,4 @@
-// The page that is printed: what is filled in and what is shown.
+// The page to be printed: what is filled in and what is shown.
 
 #include "commands/print.h"
 
@@ -23,7 +23,7 @@ TEST_F(Print, ThePlainPageHoldsTheSurfaceAndTheName) {
   EXPECT_TRUE(page.Image1.Visible);
   EXPECT_EQ(page.Image1.Shown()->Strokes, desk.main.Picture1.Image()->Strokes);
   EXPECT_TRUE(page.Mol_Name.Visible);
-  // "Orvane (OVN) v2.0: ALANINE (ALA A)" from its eleventh letter on.
+  // "Orvane (OVN) v2.0: ALANINE (ALA A)", from its eleventh letter on.
   EXPECT_EQ(page.Mol_Name.Caption, "N) v2.0: ALANINE (ALA A)");
   for (const Control* hidden : std::initializer_list<const Control*>{
            &page.R_Form, &page.L_Form, &page.AA_name, &page.Str_Entm}) {
@@ -96,7 +96,7 @@ TEST_F(Print, TheSecondToggleLeavesTheHiddenSurfaceToThePage) {
   EXPECT_TRUE(page.Image1.Visible);
 }
 
-TEST_F(Print, ARedGreenPictureComesInItsTwoColours) {
+TEST_F(Print, ARedGreenPictureIsPrintedInItsTwoColours) {
   Click(desk, desk.main.R_G_Stereo);
   Click(desk, desk.main.PrImg);
   bool red = false, green = false;

@@ -1,4 +1,4 @@
-// The animated recording rides on the spin.
+// The spin's ticks drive the animated recording.
 
 #include "commands/recording.h"
 
@@ -82,7 +82,7 @@ TEST_F(Recordings, AManualStopLeavesTheFlagUntilJpegClearsIt) {
   EXPECT_EQ(desk.recording.GifRecording, 0);
 }
 
-TEST_F(Recordings, WithTheSpinOnAlreadyTheClickStopsIt) {
+TEST_F(Recordings, WithTheSpinAlreadyOnTheClickStopsIt) {
   Click(desk, desk.main.P_Auto_Rotate);
   Click(desk, desk.main.S_AnGif);
   EXPECT_EQ(desk.view.AutoRotateOn, 0);
@@ -103,7 +103,7 @@ TEST_F(Recordings, FramesOfAStereoViewAreThePanel) {
   EXPECT_EQ(Count("save AGIF abc.gif P_Sterio"), 18);
 }
 
-TEST_F(Recordings, DoNotTakeTheMapThoughItIsOpen) {
+TEST_F(Recordings, DoNotTakeTheMapEvenIfItIsOpen) {
   desk.plot.Show();
   platform.Answers = {"abc"};
   Click(desk, desk.main.S_AnGif);

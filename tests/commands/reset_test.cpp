@@ -68,7 +68,7 @@ TEST_F(ResetTest, TheZoomGoesBackAndRemembersItsLastStep) {
   EXPECT_EQ(desk.view.ZoomFactor, 1.0);
 }
 
-TEST_F(ResetTest, BlackBehindButTheBackgroundPictureStays) {
+TEST_F(ResetTest, TheBackgroundTurnsBlackButAPictureStays) {
   desk.colours.BakImg[1] = std::make_shared<const Bitmap>();
   desk.colours.BackgroundIndex = 1;
   desk.main.Picture1.SetBackColor(kPalette15);

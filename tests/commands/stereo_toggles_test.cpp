@@ -11,7 +11,7 @@
 namespace orvane {
 namespace {
 
-// Everything of the table that a click leaves behind.
+// Everything in the table that a click changes.
 struct ViewState {
   std::string Sterio = "Stereo Off";
   std::string Isomers = "D / L Off";
@@ -112,12 +112,12 @@ void ClickToggle(Orvane_Desk& desk, Toggle toggle) {
 
 struct Toggles : DeskAtWork, testing::Test {
   Toggles() {
-    desk.main.Bt3_Isomers.Enabled = true;  // as after an amino acid was chosen
+    desk.main.Bt3_Isomers.Enabled = true;  // as after the choice of an amino acid
     desk.stock.TitlePrefix = "Orvane (OVN) v2.0: ";
   }
 };
 
-// Start, and the rows of the table in turn.
+// The start, then the rows of the table in turn.
 struct TableRow {
   std::vector<Toggle> Before;
   Toggle Clicked;
@@ -227,7 +227,7 @@ TEST_F(Toggles, StereoWithNoStructureOpensTheCommandsThatBeep) {
   EXPECT_EQ(platform.Effects, std::vector<std::string>());
 }
 
-TEST_F(Toggles, CaptionsOfThePairTellWhichItIs) {
+TEST_F(Toggles, CaptionsOfThePairSayWhichItIs) {
   desk.main.Caption = "Orvane (OVN) v2.0: ALANINE (ALA A)";
 
   Click(desk, desk.main.Bt3_Sterio);

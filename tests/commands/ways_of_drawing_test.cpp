@@ -10,8 +10,8 @@ namespace {
 constexpr Colour kPen = Rgb(1, 2, 3);
 constexpr Colour kPlane = Rgb(4, 5, 6);
 
-// What happens on the surface, a word each; a painter's further lines are left out. In one of its
-// lines the atom family shows the element colour of carbon or oxygen.
+// What happens on the surface, one word for each painter; its further lines are left out. The atom
+// family is known by a line in the element colour of carbon or oxygen.
 struct PainterWords : SurfaceTrace {
   std::string Words;
   void Add(const std::string& word) {
@@ -30,7 +30,7 @@ struct Row {
   bool Needs;
   char BondWidth, BallsOn, DrawFamily, RibbonOn, CartoonOn, PeptideOn, PlanesOnly;
   const char* Painters;
-  int Composed;  // how many of the three tests of the tail run, from the first
+  int Composed;  // how many of the three tests of the tail run, counted from the first
 };
 constexpr Row kRows[] = {
     {"D_Wf", true, '1', '0', '0', '0', '0', '0', '0', " wipe atoms", 3},
@@ -67,7 +67,7 @@ struct DrawCommandsTest : testing::Test, PlacedAtoms {
     desk.main.Picture1.Trace = &words;
   }
 
-  // The painters that ran in the click. A disabled menu is clicked all the same.
+  // The painters that ran during the click. The click comes even if the menu is disabled.
   std::string Clicked(std::string_view name) {
     words.Words.clear();
     Click(desk, *desk.FindControl(name), Reach::Forced);
@@ -119,11 +119,11 @@ TEST_F(DrawCommandsTest, EachEntrySetsItsFieldsAndRunsItsPaintersFromEveryStart)
       }
     }
   }
-  EXPECT_TRUE(platform.Effects.empty());  // without a structure they are silent
+  EXPECT_TRUE(platform.Effects.empty());  // without a structure they do not even beep
 }
 
-// Each composition leaves a mark of its own: the two pairs fill the images, the stereo pair with a
-// turned right half; the red-green picture leaves the pen green.
+// Each composition leaves its own mark. Both pairs fill the images, and the right half of the
+// stereo pair is turned; the red-green picture leaves the pen green.
 TEST_F(DrawCommandsTest, EachEntryComposesWhatItsRowSays) {
   const Colour green = desk.main.P_Clr[kGreenSwatch].BackColor;
   for (const Row& row : kRows) {
@@ -179,7 +179,7 @@ TEST_F(DrawCommandsTest, TheStyleButtonGoesByItsCaption) {
   EXPECT_EQ(drawing.BondWidth, 1);
   EXPECT_EQ(drawing.BallsOn, 0);
 
-  // Balls from the menu: the caption has not moved, so a click gives balls once more.
+  // The menu gave balls but left the caption, so a click gives balls once more.
   Clicked("D_StB");
   Clicked("Bt_BlS");
   EXPECT_EQ(drawing.BallsOn, 1);

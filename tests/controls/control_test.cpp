@@ -55,7 +55,7 @@ TEST(Watcher, HearsOfAChangeAfterItWasMade) {
                                           "Small.Frame hidden", "Small.Tag(0) place"));
 }
 
-TEST(Watcher, HearsNothingOfAValueThatIsThereAlready) {
+TEST(Watcher, HearsNothingOfAValueThatDoesNotChange) {
   SmallWindow window;
   Listener listener;
   window.Watcher = &listener;
@@ -91,7 +91,7 @@ TEST(Control, SetTopMovesNothingElse) {
   EXPECT_EQ(window.Frame.At.Get(), (Place{15, 300, 45, 60}));
 }
 
-TEST(Control, IsOpenToTheUserOnlyWithAllThatHoldsIt) {
+TEST(Control, IsOpenToTheUserOnlyIfAllThatHoldsItIs) {
   SmallWindow window;
   EXPECT_TRUE(window.Key.IsOpenToUser());
 
@@ -130,7 +130,7 @@ TEST(Control, RunsTheHandlersOfAnEventInTheOrderOfTheirBinding) {
   EXPECT_FALSE(window.Key.Handles(EventKind::Move));
 }
 
-TEST(Control, AnEventBearsTheIndexOfItsElement) {
+TEST(Control, AnEventCarriesTheIndexOfItsElement) {
   SmallWindow window;
   int index = -1;
   window.Tag[1].Bind(EventKind::Click, [&](const Event& event) { index = event.Index; });

@@ -11,7 +11,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// A bar from -80 to 80 at 0, and what happened to it.
+// A bar from -80 to 80 at 0, and a list of what happened to it.
 struct WatchedBar {
   SmallWindow window;
   ScrollBar& bar = window.Bar;
@@ -51,7 +51,7 @@ TEST(ScrollBar, AStepIsOneChangeAndStaysInTheRange) {
   WatchedBar watched;
   watched.bar.StepTo(90);
   EXPECT_EQ(watched.bar.Value, 80);
-  watched.bar.StepTo(85);  // at its end already
+  watched.bar.StepTo(85);  // already at its end
   watched.bar.StepTo(-100);
 
   EXPECT_THAT(watched.events, ElementsAre("change 80", "change -80"));

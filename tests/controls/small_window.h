@@ -1,4 +1,4 @@
-// A window of a few controls for tests of what every control does.
+// A window with a few controls, for tests of what every control does.
 #pragma once
 
 #include <array>
@@ -38,7 +38,7 @@ struct SmallWindow : Window {
   ControlArray<Panel, 2> Tag{*this, "Tag"};
 };
 
-// Keeps what it is told, "Bar value", with what the control says at that moment where it matters.
+// Keeps what it is told ("Bar value"), and what the control says at that moment where it matters.
 class Listener : public ControlWatcher {
  public:
   std::vector<std::string> Heard;

@@ -37,13 +37,13 @@ TEST(Spoken, TheResultIsReadWhileThereIsOne) {
   EXPECT_EQ(SpokenName(result), "N - CA: 1.46 Angs, ALA 1 - ALA 1");
 }
 
-TEST(Spoken, AWordOfTheRowStandsForACaptionThatReadsBadly) {
+TEST(Spoken, AWordOfTheRowReplacesACaptionThatReadsBadly) {
   DeskAtWork work;
   EXPECT_EQ(SpokenName(work.desk.main.X_Tag[0]), "X axis");
   EXPECT_EQ(SpokenName(work.desk.plot.Label5[0]), "phi");
 }
 
-// Of two swatches that are one colour the name is one, too; else each has its own.
+// Two swatches of the same colour have the same name; any other two have different names.
 TEST(Spoken, ASwatchIsCalledByItsColour) {
   DeskAtWork work;
   auto& swatches = work.desk.main.P_Clr;
@@ -63,7 +63,7 @@ TEST(Spoken, ASwatchThatStandsForTheElementsIsCalledByItsCaption) {
   EXPECT_EQ(SpokenName(work.desk.main.P_Clr[0]), "CPK");
 }
 
-// A toggle tells by its caption, the chosen axis and the spin by their bevel.
+// A toggle shows its state by its caption, the chosen axis and the spin by their bevel.
 TEST(Spoken, WhatIsDrawnAsPressedLooksOn) {
   DeskAtWork work;
   MainWindow& main = work.desk.main;

@@ -139,7 +139,7 @@ TEST_F(SurfaceTest, SnapshotsOfAnUntouchedSurfaceShareOneList) {
 TEST_F(SurfaceTest, ListsOfDroppedSnapshotsAreUsedAgain) {
   std::shared_ptr<const Picture> shown = Surface.Image();
   const Picture* first = shown.get();
-  Surface.ResetSurface();  // the first list is put aside, as a snapshot still shows it
+  Surface.ResetSurface();  // the first list is put aside, since a snapshot still shows it
   shown = Surface.Image();
   Surface.ResetSurface();
 
@@ -203,7 +203,7 @@ TEST_F(SurfaceTest, ClsWipesTheStrokesAndKeepsTheBackdrop) {
 
 TEST_F(SurfaceTest, TheTraceHearsEveryCallInOrder) {
   Surface.SetBackColor(kRed);
-  Surface.SetBackColor(kRed);  // set is set, also to the same colour
+  Surface.SetBackColor(kRed);  // setting the same colour counts too
   Surface.ResetSurface(std::make_shared<Bitmap>(), 4);
   Surface.Line(1, 2, 3, 4, kRed);
   Surface.Print(" O");

@@ -11,21 +11,21 @@
 namespace orvane {
 namespace {
 
-// A row of atoms along x, far enough apart for no bond.
+// A row of atoms along x, too far apart for bonds.
 std::string ChainOf(int count) {
   std::string text;
   for (int i = 1; i <= count; ++i) text += Record("N", 2.0 * i, 0, 0);
   return text;
 }
 
-// Two carbons so far apart along x, put past the eight columns of a record.
+// Two carbons this far apart along x, placed without the eight columns of a record.
 void PlacePair(Orvane_Desk& desk, double length) {
   Load(desk, Record("C", 0, 0, 0) + Record("C", 5, 0, 0));
   desk.molecule.AtomX[2] = length;
   FindBonds(desk);
 }
 
-// A load that ends in a failure; its clause.
+// Loads a text that fails; returns the clause of the failure.
 std::string LoadFails(Orvane_Desk& desk, const std::string& text) {
   try {
     Load(desk, text);
@@ -92,7 +92,7 @@ TEST(Loader, OnlyTheFirstTwoLettersOfARecordTypeCount) {
   EXPECT_EQ(work.desk.molecule.AtomCount, 2);
 }
 
-TEST(Loader, ACoordinateEndsAtTheFirstCharacterThatIsNoPartOfANumber) {
+TEST(Loader, ACoordinateEndsAtTheFirstCharacterThatIsNotPartOfANumber) {
   DeskAtWork work;
   std::string text = ChainOf(2);
   text.replace(30, 8, "  1.5x99");
@@ -117,7 +117,7 @@ TEST(Loader, AResidueNumberIsBlanksASignAndDigits) {
   }
 }
 
-TEST(Loader, AResidueNumberThatIsNoIntegerEndsTheLoad) {
+TEST(Loader, AResidueNumberThatIsNotAnIntegerEndsTheLoad) {
   DeskAtWork work;
   for (const std::string field : {"  1A", "    ", "1 2 ", " 1.5", "1e1 ", "12.5", " 1. ", "- 1 "}) {
     std::string text = ChainOf(2);
@@ -141,7 +141,7 @@ TEST(Loader, ATextOfAnotherTypeGivesNoAtomsAndThenFailsOnTheBox) {
   EXPECT_EQ(work.desk.molecule.AtomCount, 0);
 }
 
-TEST(Loader, OneAtomOrSeveralOnOneSpotHaveNoExtentToFit) {
+TEST(Loader, OneAtomOrSeveralInOnePlaceHaveNoExtentToFit) {
   DeskAtWork work;
   EXPECT_EQ(LoadFails(work.desk, ChainOf(1)), "a number was divided by zero");
   EXPECT_EQ(LoadFails(work.desk, ChainOf(1) + ChainOf(1)), "a number was divided by zero");
@@ -153,7 +153,7 @@ TEST(Loader, Record596LoadsAndRecord597Fails) {
   Load(work.desk, ChainOf(596));
   EXPECT_EQ(work.desk.molecule.AtomCount, 596);
 
-  // The 597th would stand at character 1 + 55 * 596 = 32781, beyond 32767.
+  // The 597th would begin at character 1 + 55 * 596 = 32781, beyond 32767.
   EXPECT_EQ(LoadFails(work.desk, ChainOf(597)), "a whole number grew beyond what it can hold");
   EXPECT_EQ(work.desk.molecule.AtomCount, 596);
 }
@@ -174,7 +174,7 @@ TEST(Loader, LeavesTheViewAsItIs) {
   Load(work.desk, ChainOf(3));
 
   EXPECT_EQ(work.desk.view.PanX, 30);
-  // Atom 2 is the centre of the box: the middle of 360 pixels, and the pan.
+  // Atom 2 is the centre of the box, so it is in the middle of the 360 pixels, plus the pan.
   EXPECT_EQ(work.desk.molecule.ScrX[2], 180 + 30);
   EXPECT_EQ(work.desk.molecule.ScrY[2], 180);
 }
@@ -216,7 +216,7 @@ TEST(Loader, NoStaleAtomOfALargerStructureIsPaintedOrPicked) {
   }
   EXPECT_EQ(work.desk.main.Picture1.Image()->Strokes, fresh.desk.main.Picture1.Image()->Strokes);
 
-  // Atom 4 of the larger one lay a quarter to the right of the middle, where no atom is now.
+  // Atom 4 of the larger structure lay a quarter to the right of the middle. No atom is there now.
   const double x = work.desk.molecule.ScrX[4], y = work.desk.molecule.ScrY[4];
   Press(work.desk, work.desk.main.Picture1, kLeftButton, static_cast<float>(x),
         static_cast<float>(y));
@@ -253,8 +253,8 @@ TEST(FindBonds, AtExactlyTheLimitAtomsAreBonded) {
 
 TEST(FindBonds, ComparesIn32Bits) {
   DeskAtWork work;
-  // 32-bit values near 1.85 are 2^-23 = 1.19e-7 apart: a twentieth of a step above the limit rounds
-  // down to it, a whole step does not.
+  // 32-bit values near 1.85 are 2^-23 = 1.19e-7 apart. A twentieth of a step above the limit rounds
+  // down to the limit; a whole step does not.
   const double limit = kBondLimit;
   PlacePair(work.desk, limit + std::ldexp(1.0, -23) / 20);
   EXPECT_EQ(work.desk.molecule.BondCount, 1);
@@ -273,7 +273,7 @@ TEST(FindBonds, KnowsNoElementAndNoResidue) {
   EXPECT_EQ(work.desk.molecule.BondCount, 1);
 }
 
-TEST(FindBonds, AtomsOnOneSpotAreNotBonded) {
+TEST(FindBonds, AtomsInOnePlaceAreNotBonded) {
   DeskAtWork work;
   PlacePair(work.desk, 0.0);
   EXPECT_EQ(work.desk.molecule.BondCount, 0);
@@ -311,7 +311,7 @@ TEST(FindBonds, DoesNotDependOnTheView) {
   EXPECT_EQ(work.desk.molecule.BondCount, 1);
 }
 
-TEST(FindBonds, CountsTheNewAtomsAloneAfterALargerStructure) {
+TEST(FindBonds, CountsOnlyTheNewAtomsAfterALargerStructure) {
   DeskAtWork work;
   Load(work.desk, Record("C", 0, 0, 0) + Record("C", 1, 0, 0) + Record("C", 1, 1, 0));
   EXPECT_EQ(work.desk.molecule.BondCount, 3);
@@ -333,7 +333,7 @@ TEST(FindBonds, Bond30001HasNoSlot) {
   EXPECT_EQ(molecule.BondCount, kLastSlot);
 }
 
-// 246 atoms within a bond's length of each other, on spots of their own, have 246 * 245 / 2 = 30135
+// 246 atoms within a bond's length of each other, no two in one place, have 246 * 245 / 2 = 30135
 // pairs. The desk goes on with the bonds that there was room for.
 TEST(FindBonds, AHeapOfAtomsEndsAtTheLastSlotAndCanBeDrawn) {
   DeskAtWork work;

@@ -1,4 +1,4 @@
-// Tiny builders of molecule texts, for every test that needs a structure of its own.
+// Small builders of molecule texts, for any test that needs its own structure.
 #pragma once
 
 #include <cstdio>
@@ -17,8 +17,8 @@ struct RecordRest {
 };
 
 // One record with its closing blank: Record("CA", 1.0, 0.0, 0.0) is an atom whose name field is
-// "  CA ". A shorter residue name stands to the right, as a nucleotide's does. The locale of tests
-// is the plain one, so the decimals come with a point.
+// "  CA ". A shorter residue name is aligned to the right, as a nucleotide's is. Tests run in the
+// plain locale, so decimals have a point.
 inline std::string Record(std::string_view name, double x, double y, double z,
                           RecordRest rest = {}) {
   char text[96];
@@ -28,7 +28,7 @@ inline std::string Record(std::string_view name, double x, double y, double z,
   return text;
 }
 
-// Loads a text as every selection does, without the rest of a selection.
+// Loads a text as a selection does, but does nothing else of a selection.
 inline void Load(Orvane_Desk& desk, std::string text) {
   ClearBondTables(desk.molecule);
   desk.molecule.MolText = std::move(text);

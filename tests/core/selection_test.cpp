@@ -111,7 +111,7 @@ TEST(Selection, LoadAaLoadsTheLastTextAgainWithTheOldView) {
   EXPECT_EQ(work.desk.molecule.MoleculeReady, 1);
   EXPECT_EQ(work.desk.molecule.BondCount, 1);
   EXPECT_EQ(work.desk.view.PanX, 40);
-  // The pair is 1.2 long and lies along x: a quarter of 360 left of the middle, and the pan.
+  // The pair is 1.2 long and lies along x: a quarter of 360 left of the middle, plus the pan.
   EXPECT_DOUBLE_EQ(work.desk.molecule.ScrX[1], 180 - 90 + 40);
   EXPECT_EQ(work.desk.selection.ListsShown, 0);
   EXPECT_FALSE(work.desk.main.Bt_M_Ld.Visible);
@@ -135,7 +135,7 @@ TEST(Selection, LoadAaWithAnEmptyPendingTextFailsInABoxAndStaysReady) {
   EXPECT_EQ(work.platform.Effects,
             (std::vector<std::string>{
                 "failure Load AA could not be finished: a number was divided by zero."}));
-  // What comes behind the load was not reached.
+  // What comes after the load was not reached.
   EXPECT_EQ(work.desk.molecule.MoleculeReady, 1);
   EXPECT_EQ(work.desk.selection.ListsShown, 1);
 }

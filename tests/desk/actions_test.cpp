@@ -20,7 +20,7 @@ void SelectBeginning(DeskAtWork& work, List& list, std::string_view beginning) {
   }
 }
 
-// A desk with a count of the clicks that reach "Reset".
+// A desk that counts the clicks that reach "Reset".
 struct CountedReset {
   DeskAtWork work;
   int clicks = 0;
@@ -49,7 +49,7 @@ TEST(Actions, AControlThatIsNotOpenToTheUserGetsNoEvent) {
   EXPECT_EQ(counted.clicks, 1);
 }
 
-TEST(Actions, AForcedOneReachesItAllTheSame) {
+TEST(Actions, AForcedEventReachesItAllTheSame) {
   CountedReset counted;
   counted.reset.Visible = false;
   Click(counted.work.desk, counted.reset, Reach::Forced);
@@ -82,7 +82,7 @@ TEST(Actions, AFailureEndsTheOperationInABoxThatNamesTheCommand) {
 
   EXPECT_THAT(work.platform.Effects,
               ElementsAre("failure Reset could not be finished: a number was divided by zero."));
-  EXPECT_EQ(work.desk.shell.SoundFile, "begun");  // what it had done stays done
+  EXPECT_EQ(work.desk.shell.SoundFile, "begun");  // what was already done stays done
   EXPECT_FALSE(reached_end);
 }
 
@@ -131,7 +131,7 @@ TEST(Actions, TheDeskGoesOnAfterAFailure) {
   Click(work.desk, work.desk.main.Bt_M_Ld, Reach::Forced);
   ASSERT_EQ(work.platform.Effects.size(), 1u);
 
-  // the store is whole up to where the load came,
+  // the store is whole as far as the load got,
   const Molecule& molecule = work.desk.molecule;
   ASSERT_EQ(molecule.AtomCount, 596);
   for (int i = 1; i <= 596; ++i) {
@@ -162,7 +162,7 @@ TEST(Actions, ChoosingARowClicksTheListEachTime) {
   EXPECT_EQ(work.desk.main.Nuc_Lst.ListIndex, 1);
 }
 
-TEST(Actions, ARowThatTheListDoesNotHaveIsNone) {
+TEST(Actions, ARowThatTheListDoesNotHaveCountsAsNone) {
   DeskAtWork work;
   SelectRow(work.desk, work.desk.main.AA_Lst, 21);
   EXPECT_EQ(work.desk.main.AA_Lst.ListIndex, -1);

@@ -6,7 +6,7 @@
 namespace orvane {
 namespace {
 
-// ZoomBar lies: -100 to 100, both steps 5, from 0.
+// ZoomBar is horizontal: -100 to 100, both steps 5, starting at 0.
 struct BarAtWork : WindowAtWork {
   ScrollBar& bar = main.ZoomBar;
   BarWidget& widget = dynamic_cast<BarWidget&>(WidgetOf(main.ZoomBar));
@@ -42,7 +42,7 @@ TEST(Bars, ThePageAreaIsALargeStep) {
   EXPECT_EQ(work.main.X_TRANS.Value, -10);
 }
 
-TEST(Bars, TheThumbScrollsWhileItIsHeldAndChangesWhenItIsLetGo) {
+TEST(Bars, TheThumbScrollsWhileItIsHeldAndChangesWhenItIsReleased) {
   BarAtWork work;
   const QPoint thumb = work.widget.ThumbInWidget().center().toPoint();
 
@@ -113,12 +113,12 @@ TEST(Bars, ATouchpadTurnsByPartsOfANotch) {
   work.TurnWheel(work.widget, at, -30);
   EXPECT_EQ(work.bar.Value, 5);
   work.TurnWheel(work.widget, at, -90);
-  work.TurnWheel(work.widget, at, 30);  // back: what was not whole is forgotten
+  work.TurnWheel(work.widget, at, 30);  // back again: the part of a notch is forgotten
   work.TurnWheel(work.widget, at, -90);
   EXPECT_EQ(work.bar.Value, 5);
 }
 
-TEST(Bars, AnArrowThatIsHeldStepsOnUntilItIsLetGo) {
+TEST(Bars, AnArrowThatIsHeldStepsOnUntilItIsReleased) {
   BarAtWork work;
   const QPoint arrow(work.End() - 5, 8);
 
@@ -148,7 +148,7 @@ TEST(Bars, APageThatIsHeldStopsWithTheThumbUnderThePointer) {
   QTest::mouseRelease(&work.widget, Qt::LeftButton, {}, at);
 }
 
-TEST(Bars, AStepAtTheEndOfTheRangeIsNoChange) {
+TEST(Bars, AStepAtTheEndOfTheRangeChangesNothing) {
   BarAtWork work;
   work.bar.SetValue(100);
   const int before = work.changes.Count;

@@ -1,4 +1,4 @@
-// A recording whose file was changed under its hand: every file that the fuzzer of films keeps.
+// A recording whose file was changed while it ran, with every file that the fuzzer of GIFs keeps.
 #include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -38,11 +38,11 @@ TEST(BrokenFilms, AreLeftAsTheyWereAndTheBoxSaysSo) {
     const QByteArray content = ContentOf(QString::fromStdString(entry.path().string()));
     if (IsAFilm(content)) continue;
     ++broken;
-    // Given a recording of two frames, in whose place there is something else now,
+    // Given a recording of two frames whose file has been replaced by something else,
     WindowAtWork work;
     const QTemporaryDir folder;
     work.platform.Folder = folder.path().toStdString();
-    work.main.Timer1.Interval = 1000000;  // no tick but the test's own
+    work.main.Timer1.Interval = 1000000;  // no ticks but the test's own
     SelectRow(work.desk, work.main.Pro_Lst, 1);
     work.platform.Answers = {"abc"};
     Click(work.desk, work.main.S_AnGif);

@@ -1,4 +1,4 @@
-// Every caption fits its control in every wording that it can take, with a pixel to spare.
+// Every caption fits its control with a pixel to spare, in every wording that it can have.
 #include <gtest/gtest.h>
 
 #include <QFontMetricsF>
@@ -15,7 +15,7 @@ struct Wording {
   const char* Caption;
 };
 
-// Captions that handlers set, besides those of the table.
+// Captions that handlers set, in addition to those of the table.
 constexpr Wording kWordings[] = {
     {"Bt_BlS", "Ball-Stick"},
     {"Bt_BlS", "Wire-Frame"},
@@ -45,18 +45,18 @@ double Width(const QString& text, Type type, QFont::HintingPreference hinting) {
 
 void ExpectFits(const Control& control, std::string_view caption) {
   const Dress& dress = DressOf(control);
-  if (dress.Shape == Cut::Tab) return;  // its caption comes out in a flyout of its own width
-  // The heaviest weight that a bevelled control's text style can give it.
+  if (dress.Shape == Cut::Tab) return;  // its caption appears in a flyout of its own width
+  // The heaviest weight that the text style can give a bevelled control.
   const bool heavy = control.Name == "X_Tag" || control.Name == "P_Auto_Rotate";
   const Type type = dress.Shape == Cut::Bevel ? Type{11, heavy ? 600 : 500} : dress.Letters;
   QString text = QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size()));
   if (dress.Align == Side::Centre) text = text.trimmed();
   const Place at = control.At;
   const int room = (dress.Upwards ? at.Height : at.Width) / TwipsPerPixel;
-  // An edge at either side is no room for letters.
+  // The edge at either side leaves no room for letters.
   const double inner =
       room - dress.TextLeft - dress.TextRight - (dress.Shape == Cut::Bevel ? 2 : 0);
-  // The turned label has two pixels of bare ground at both ends, which are its pixel to spare.
+  // The turned label has two pixels of bare background at both ends; these are its pixel to spare.
   const double spare = dress.Upwards ? 0 : 1;
   for (const auto hinting :
        {QFont::PreferNoHinting, QFont::PreferVerticalHinting, QFont::PreferFullHinting}) {
@@ -93,14 +93,14 @@ TEST(Captions, TheLongestTorsionOfThreeLetterAtomsIsNotCut) {
   EXPECT_LE(WidthOf({11, 400}, line), room);
 }
 
-// A line of any length stays within its box: it is drawn narrower.
+// A line of any length stays within its box, since it is drawn narrower.
 TEST(Captions, ALineTooLongForTheResultIsDrawnNarrower) {
   WindowAtWork work;
   work.main.P_Dst_Show.Caption = std::string(90, 'W');
   const QImage shot = work.Shot();
   const QRect face = work.ViewOf(work.main.P_Dst_Show).Stand().Face;
 
-  // Ink right up to the edge of the box, and none of it beyond.
+  // There is ink right up to the edge of the box, and none beyond it.
   int last = 0;
   for (int x = face.left(); x < shot.width(); ++x) {
     for (int y = face.top() + 10; y < face.top() + 34; ++y) {

@@ -9,7 +9,7 @@ namespace {
 
 using namespace palette;
 
-// Relative luminance and contrast as they are defined for the reading of screens.
+// Relative luminance and contrast, as defined for reading on screens.
 double Light(QRgb colour) {
   const auto part = [](int eight_bits) {
     const double v = eight_bits / 255.0;
@@ -64,7 +64,7 @@ TEST(Contrast, EveryPairOfColoursCanBeRead) {
   }
 }
 
-TEST(Contrast, WhiteOnBlackIsTheLargestThereIs) {
+TEST(Contrast, WhiteOnBlackHasTheLargestContrast) {
   EXPECT_NEAR(Contrast(0xFFFFFFFF, 0xFF000000), 21, 1e-9);
 }
 

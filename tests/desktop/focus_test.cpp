@@ -8,7 +8,7 @@
 namespace orvane {
 namespace {
 
-// Stops that can be reached now, in the order of their numbers.
+// The stops that can be reached now, in the order of their numbers.
 std::vector<const Control*> OpenStops(const MainWindow& main) {
   std::vector<const Control*> stops;
   for (const Control* control : main.Controls) {
@@ -48,8 +48,9 @@ TEST(Focus, TabWalksAllStopsInTheirOrderAndComesRound) {
   EXPECT_EQ(WithKeyboard(work), stops.front());
 }
 
-// Pixels that change when the keyboard comes are those of the ring: all of them on its control.
-TEST(Focus, TheRingIsSeenAtEveryStopAndNowhereElse) {
+// The pixels that change when the keyboard arrives are those of the ring, and all are on its
+// control.
+TEST(Focus, TheRingIsVisibleAtEveryStopAndNowhereElse) {
   WindowAtWork work;
   work.window.focusWidget()->clearFocus();
   const QImage bare = work.Shot();
@@ -86,7 +87,7 @@ TEST(Focus, SpaceAndEnterAreAClick) {
   EXPECT_EQ(clicks.Count, 3);
 }
 
-// The keys for sizes act on the press of the left button, so a key has to be one.
+// The keys for sizes act on a press of the left button, so a key must cause one.
 TEST(Focus, AKeyIsAPressOfTheLeftButtonToo) {
   WindowAtWork work;
   Heard presses(work.main.Sz_Balls[2], EventKind::Press);
@@ -100,7 +101,7 @@ TEST(Focus, AKeyIsAPressOfTheLeftButtonToo) {
   EXPECT_EQ(presses.Last.Index, 2);
 }
 
-TEST(Focus, OnlyTheKeyThatHoldsAButtonClicksItWhenItIsLetGo) {
+TEST(Focus, OnlyTheKeyThatHoldsAButtonClicksItWhenReleased) {
   WindowAtWork work;
   Heard clicks(work.main.Bt3_Dts, EventKind::Click);
   QWidget& button = work.WidgetOf(work.main.Bt3_Dts);
@@ -116,8 +117,8 @@ TEST(Focus, OnlyTheKeyThatHoldsAButtonClicksItWhenItIsLetGo) {
   EXPECT_EQ(clicks.Count, 1);
 }
 
-// Space goes down on the button, and is let go when the keyboard is elsewhere.
-TEST(Focus, AButtonIsHeldByNoKeyOnceTheKeyboardHasLeftIt) {
+// Space goes down on the button, and comes up when the keyboard is elsewhere.
+TEST(Focus, NoKeyHoldsAButtonOnceTheKeyboardHasLeftIt) {
   WindowAtWork work;
   Heard clicks(work.main.Bt3_Dts, EventKind::Click);
   QWidget& button = work.WidgetOf(work.main.Bt3_Dts);
@@ -150,7 +151,7 @@ TEST(Focus, AFloatingPanelTakesTheNextPlace) {
   EXPECT_EQ(WithKeyboard(work), &work.main.X_TRANS);
 }
 
-TEST(Focus, ComingToABarIsTold) {
+TEST(Focus, ArrivingAtABarIsAnnounced) {
   WindowAtWork work;
   Heard comings(work.main.ZoomBar, EventKind::Focus);
 

@@ -1,4 +1,4 @@
-// The windows before and beside the desk: every control is there, and stands as it should.
+// The windows before and beside the desk: every control is there and in its place.
 #include <gtest/gtest.h>
 
 #include <QScreen>
@@ -24,7 +24,7 @@ TEST(FurtherWindows, EveryControlHasAWidgetWithItsName) {
   }
 }
 
-TEST(FurtherWindows, NothingToClickIsWithoutWords) {
+TEST(FurtherWindows, NothingToClickLacksWords) {
   ProgramAtWork program;
   Orvane_Desk& desk = program.desk;
   for (Window* window :
@@ -37,7 +37,7 @@ TEST(FurtherWindows, NothingToClickIsWithoutWords) {
   }
 }
 
-TEST(FurtherWindows, TheKeyboardIsOnTheWayOnAtTheStart) {
+TEST(FurtherWindows, TheKeyboardStartsOnTheWayIn) {
   ProgramAtWork program;
   Orvane_Desk& desk = program.desk;
   const auto keyboard = [&](Window& window) { return program.WindowOf(window).focusWidget(); };
@@ -47,7 +47,7 @@ TEST(FurtherWindows, TheKeyboardIsOnTheWayOnAtTheStart) {
   EXPECT_EQ(keyboard(desk.author), &program.WidgetOf(desk.author.Get_in));
 }
 
-TEST(FurtherWindows, OneOfFixedSizeCannotBeStretched) {
+TEST(FurtherWindows, AWindowOfFixedSizeCannotBeStretched) {
   ProgramAtWork program;
   WindowWidget& splash = program.WindowOf(program.desk.front);
 
@@ -90,7 +90,7 @@ TEST(Reading, NoLineOfTheOverviewIsWiderThanItsBoxAndNoneIsLost) {
   }
 }
 
-TEST(Reading, TheGreekLetterStandsInTheGapBehindTheC) {
+TEST(Reading, TheGreekLetterIsInTheGapAfterTheC) {
   ProgramAtWork program;
   program.ClickOn(program.desk.front.Get_in);
   WindowWidget& window = program.WindowOf(program.desk.content);
@@ -103,7 +103,7 @@ TEST(Reading, TheGreekLetterStandsInTheGapBehindTheC) {
   ASSERT_FALSE(gap.isEmpty());
   EXPECT_NEAR(letter.center().x(), gap.center().x() / ratio, 1.5);
   EXPECT_NEAR(letter.center().y(), gap.center().y() / ratio, 1.5);
-  // It has ink of its own: half of the gap's columns are no longer plain white.
+  // It has been drawn there: half of the gap's columns are no longer plain white.
   const QImage shot = window.grab().toImage();
   int inked = 0;
   for (int x = static_cast<int>(gap.left()); x < gap.right(); ++x) {

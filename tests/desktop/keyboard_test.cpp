@@ -1,5 +1,5 @@
-// The desk without a pointer: what a click works is reached by Tab and worked by keys, with the
-// same effect.
+// The desk without a pointer: Tab reaches whatever a click works, and keys work it with the same
+// effect.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -16,18 +16,18 @@ namespace {
 using ::testing::HasSubstr;
 
 struct KeysAtWork : WindowAtWork {
-  QTemporaryDir folder;  // for what a command saves
+  QTemporaryDir folder;  // for the files that a command saves
 
   KeysAtWork() { platform.Folder = folder.path().toStdString(); }
 
-  // A key of the keyboard: to an open menu, else to whoever has the keyboard.
+  // Sends a key to an open menu, or else to the control that has the keyboard.
   void Key(int key, Qt::KeyboardModifiers with = {}) {
     QWidget* to = QApplication::activePopupWidget();
     if (to == nullptr) to = window.focusWidget();
     QTest::keyClick(to == nullptr ? &window : to, static_cast<Qt::Key>(key), with);
   }
   bool HasKeyboard(const Control& control) { return WidgetOf(control).hasFocus(); }
-  // False: Tab has gone through all stops and not come there.
+  // Returns false if Tab has gone through all stops and not reached the control.
   bool TabTo(const Control& control) {
     for (int stops = 0; stops < 100; ++stops) {
       if (HasKeyboard(control)) return true;
@@ -35,7 +35,7 @@ struct KeysAtWork : WindowAtWork {
     }
     return false;
   }
-  // Opens a top menu by its letter and goes down to the entry; through the menu above it, if any.
+  // Opens a top menu by its letter and goes down to the entry, through the menu above it if any.
   bool ChooseEntry(const Control& entry) {
     std::vector<const Control*> road{&entry};
     while (road.back()->Parent != nullptr) road.push_back(road.back()->Parent);
@@ -77,7 +77,7 @@ std::string StateOf(Orvane_Desk& desk) {
 enum AminoRow { kAlanine = 2 };
 enum DnaRow { kDoubleStrand = 2 };
 
-// A structure, and the panel or the view open in which the control stands.
+// Shows a structure, and opens the panel or the view that holds the control.
 void Prepare(KeysAtWork& work, const Control& control) {
   SelectRow(work.desk, work.main.AA_Lst, kAlanine);
   if (control.Parent == &work.main.P_Clr_Holder) Click(work.desk, work.main.MlClr);
@@ -91,7 +91,7 @@ bool IsClicked(const ControlRow& row) {
                              row.Kind == ControlKind::Panel);
 }
 
-TEST(Keyboard, WhatActsOnAClickTakesTheKeyboardOrStandsInAMenu) {
+TEST(Keyboard, WhatActsOnAClickTakesTheKeyboardOrIsInAMenu) {
   WindowAtWork work;
   int asked = 0;
   for (const Control* control : work.main.Controls) {
@@ -107,7 +107,7 @@ TEST(Keyboard, WhatActsOnAClickTakesTheKeyboardOrStandsInAMenu) {
   EXPECT_GT(asked, 60);
 }
 
-// The effect of Space is compared with that of a click of the pointer on a desk of its own.
+// Compares the effect of Space with that of a pointer's click on another desk.
 TEST(Keyboard, SpaceOnEachButtonAndPanelDoesWhatAClickDoes) {
   std::vector<std::string> names;
   {
@@ -234,7 +234,8 @@ TEST(Keyboard, EveryEntryOfTheMenusIsChosenByItsLetterAndArrows) {
     KeysAtWork work;
     SelectRow(work.desk, work.main.Pro_Lst, 1);
     Control& entry = *work.desk.FindControl(name);
-    if (!entry.IsOpenToUser() || name == "PrImg") continue;  // no page goes to a real printer
+    if (!entry.IsOpenToUser() || name == "PrImg")
+      continue;  // so that no page goes to a real printer
     const Heard clicks(entry, EventKind::Click);
 
     EXPECT_TRUE(work.ChooseEntry(entry)) << name;
@@ -254,7 +255,7 @@ TEST(Keyboard, ATopMenuWithoutEntriesIsChosenByItsLetterAlone) {
   EXPECT_TRUE(work.desk.plot.Visible);
 }
 
-TEST(Keyboard, APanelGivesTheKeyboardBackToWhomItCameFrom) {
+TEST(Keyboard, APanelGivesTheKeyboardBackToWhereItCameFrom) {
   KeysAtWork work;
   SelectRow(work.desk, work.main.AA_Lst, kAlanine);
   for (const int key : {Qt::Key_Space, Qt::Key_Escape}) {
@@ -272,7 +273,7 @@ TEST(Keyboard, APanelGivesTheKeyboardBackToWhomItCameFrom) {
   }
 }
 
-// A key that comes up from the control inside is none on what holds it.
+// A key that comes up from the control inside does not count for the container.
 TEST(Keyboard, WhatHoldsAControlIsNotClickedByItsKeys) {
   KeysAtWork work;
   SelectRow(work.desk, work.main.AA_Lst, kAlanine);
@@ -297,7 +298,7 @@ TEST_F(OnPicture, KeysWorkTheBarsAndTheButtons) {
   EXPECT_EQ(main.VScroll1.Value, 11);
   Key(Qt::Key_Right, Qt::ShiftModifier);
   EXPECT_EQ(main.X_TRANS.Value, 5);
-  Key(Qt::Key_Plus, Qt::ShiftModifier);  // where the sign needs Shift
+  Key(Qt::Key_Plus, Qt::ShiftModifier);  // on keyboards where the sign needs Shift
   EXPECT_EQ(main.ZoomBar.Value, 5);
   Key(Qt::Key_Minus);
   EXPECT_EQ(main.ZoomBar.Value, 0);
@@ -312,7 +313,7 @@ TEST_F(OnPicture, KeysWorkTheBarsAndTheButtons) {
   EXPECT_EQ(main.X_TRANS.Value, 0);
 }
 
-TEST_F(OnPicture, KeysAreTheirsAlone) {
+TEST_F(OnPicture, KeysWorkNowhereElseAndNotWithControl) {
   WidgetOf(main.Bt3_Reset).setFocus();
   Key(Qt::Key_S);
   EXPECT_EQ(desk.view.AutoRotateOn, 0);
@@ -321,7 +322,7 @@ TEST_F(OnPicture, KeysAreTheirsAlone) {
   EXPECT_EQ(desk.view.AutoRotateOn, 0);
 }
 
-TEST_F(OnPicture, AHeldKeyRepeatsAStepAndNoSwitch) {
+TEST_F(OnPicture, AHeldKeyRepeatsAStepButNotASwitch) {
   QWidget& picture = WidgetOf(main.Picture1);
   const auto hold = [&](Qt::Key key) {
     QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
@@ -345,7 +346,7 @@ TEST_F(OnPicture, TheKeyboardGoesAlongIntoThePairOfViewsAndBack) {
 }
 
 // The panel closes at once and gives the keyboard back to the picture, where Enter is a pick.
-TEST_F(OnPicture, EnterInABoxOfTheRgbFrameIsNoPickOfTheAtomInTheRing) {
+TEST_F(OnPicture, EnterInABoxOfTheRgbFrameDoesNotPickTheAtomInTheRing) {
   Key(Qt::Key_Home);
   const auto walk = desk.walk;
   ASSERT_NE(walk.Number, 0);
@@ -364,8 +365,9 @@ TEST_F(OnPicture, EnterInABoxOfTheRgbFrameIsNoPickOfTheAtomInTheRing) {
   EXPECT_TRUE(platform.Effects.empty());
 }
 
-// The ring and the mark are seen on the screen; the strokes, and so every file and page, stay.
-TEST_F(OnPicture, TheWalkIsSeenWhileThePictureHasTheKeyboardAndIsNeverDrawn) {
+// The ring and the mark are on the screen only. The strokes do not change, nor does any file or
+// page.
+TEST_F(OnPicture, TheWalkShowsWhileThePictureHasTheKeyboardAndIsNeverDrawn) {
   const QImage ringed = PictureShot();
   const std::string strokes = StrokesAsText(*main.Picture1.Image());
 
@@ -384,7 +386,7 @@ TEST_F(OnPicture, TheWalkIsSeenWhileThePictureHasTheKeyboardAndIsNeverDrawn) {
   EXPECT_EQ(PictureShot(), bare);
 }
 
-// The mark's ring: the accent on dark at its radius from the atom, on all four sides.
+// The mark's ring: the accent for dark backgrounds at its radius from the atom, on all four sides.
 TEST_F(OnPicture, TheMarkLiesRoundTheAtom) {
   SelectRow(desk, main.AA_Lst, 1);
   Key(Qt::Key_F6);
@@ -447,7 +449,7 @@ TEST(Keyboard, AWholeLessonNeedsNoPointer) {
   work.Key(Qt::Key_Plus);
   EXPECT_NE(work.desk.molecule.CurX[1], turned);
 
-  // Another colour, from the panel.
+  // Choose another colour from the panel.
   ASSERT_TRUE(work.ChooseEntry(main.MlClr));
   ASSERT_TRUE(main.P_Clr_Holder.Visible);
   const Control& swatch = main.P_Clr[5];
@@ -457,7 +459,7 @@ TEST(Keyboard, AWholeLessonNeedsNoPointer) {
   EXPECT_FALSE(main.P_Clr_Holder.Visible);
   EXPECT_TRUE(work.HasKeyboard(main.Picture1));
 
-  // Two atoms, by the walk.
+  // Pick two atoms by the walk.
   for (const int key : {Qt::Key_Home, Qt::Key_Space}) work.Key(key);
   const int first = work.desk.walk.Picked;
   for (const int key : {Qt::Key_N, Qt::Key_N, Qt::Key_Space}) work.Key(key);
@@ -466,7 +468,7 @@ TEST(Keyboard, AWholeLessonNeedsNoPointer) {
   work.Key(Qt::Key_D);
   EXPECT_THAT(main.P_Dst_Show.Caption.Get(), HasSubstr("Angs"));
 
-  // Spinning, and back to the start.
+  // Spin, and go back to the start.
   work.Key(Qt::Key_S);
   EXPECT_EQ(work.desk.view.AutoRotateOn, 1);
   work.Key(Qt::Key_S);
@@ -483,7 +485,7 @@ QWidget* SheetOnView() {
   return nullptr;
 }
 
-TEST(TheSheetOfKeys, ComesWithF1FromAnyControlAndGoesWithF1OrEscape) {
+TEST(TheSheetOfKeys, OpensWithF1FromAnyControlAndClosesWithF1OrEscape) {
   KeysAtWork work;
   for (const int closing : {Qt::Key_F1, Qt::Key_Escape}) {
     ASSERT_TRUE(work.TabTo(work.main.Bt3_Dts));
@@ -500,7 +502,7 @@ TEST(TheSheetOfKeys, ComesWithF1FromAnyControlAndGoesWithF1OrEscape) {
   }
 }
 
-TEST(TheSheetOfKeys, StandsBesideTheDeskWhichGoesOnWorking) {
+TEST(TheSheetOfKeys, IsBesideTheDeskWhichGoesOnWorking) {
   KeysAtWork work;
   work.Key(Qt::Key_F1);
   ASSERT_NE(SheetOnView(), nullptr);
@@ -512,7 +514,7 @@ TEST(TheSheetOfKeys, StandsBesideTheDeskWhichGoesOnWorking) {
   EXPECT_EQ(SheetOnView(), nullptr);
 }
 
-TEST(TheSheetOfKeys, IsNoWindowOfTheDeskAndEndsWithIt) {
+TEST(TheSheetOfKeys, IsNotAWindowOfTheDeskAndEndsWithIt) {
   {
     KeysAtWork work;
     const std::size_t windows = work.desk.windows.size();
@@ -523,8 +525,8 @@ TEST(TheSheetOfKeys, IsNoWindowOfTheDeskAndEndsWithIt) {
   EXPECT_EQ(SheetOnView(), nullptr);
 }
 
-// Nothing of it leaves the window, whatever its size: its lowest and its rightmost rows of pixels
-// are bare ground.
+// No part of it leaves the window, whatever its size: the lowest row and the rightmost column of
+// pixels are bare background.
 TEST(TheSheetOfKeys, FitsItsWindow) {
   KeysAtWork work;
   work.Key(Qt::Key_F1);
@@ -543,13 +545,13 @@ TEST(TheSheetOfKeys, FitsItsWindow) {
   }
 }
 
-TEST(FurtherWindows, AreGoneThroughByKeys) {
+TEST(FurtherWindows, CanBeWorkedByKeys) {
   ProgramAtWork work;
   const auto key = [&](Window& window, Qt::Key code) {
     QWidget* to = work.WindowOf(window).focusWidget();
     QTest::keyClick(to == nullptr ? &work.WindowOf(window) : to, code);
   };
-  // The splash has two stops; Tab goes to the author and back.
+  // The splash has two stops: Tab goes to the author and back.
   key(work.desk.front, Qt::Key_Tab);
   EXPECT_TRUE(work.WidgetOf(work.desk.front.Author).hasFocus());
   key(work.desk.front, Qt::Key_Return);

@@ -44,7 +44,7 @@ TEST(Lists, ShowSixFiveSixAndThreeRowsNoneCutInHeight) {
   }
 }
 
-TEST(Lists, AClickOnARowChoosesItAndIsTold) {
+TEST(Lists, AClickOnARowChoosesItAndIsReported) {
   ListsAtWork work;
   Heard clicks(work.main.Pro_Lst, EventKind::Click);
 
@@ -118,7 +118,7 @@ TEST(Lists, KeysGoByRowsByPagesAndToTheEnds) {
   EXPECT_EQ(chosen, 0);
 }
 
-// Seven rows, of which five are shown: two rows of way for the thumb at the right edge.
+// Five of seven rows are shown, so the thumb at the right edge can move by two rows.
 TEST(Lists, ThePulledThumbScrollsAndChoosesNothing) {
   ListsAtWork work;
   Heard clicks(work.main.Pro_Lst, EventKind::Click);
@@ -134,13 +134,13 @@ TEST(Lists, ThePulledThumbScrollsAndChoosesNothing) {
   EXPECT_EQ(rows.FirstRow(), 0);
   QTest::mouseMove(&rows, {right, top + 200});
   QTest::mouseRelease(&rows, Qt::LeftButton, {}, {right, top + 200});
-  QTest::mouseMove(&rows, {right, top});  // it is not held any more
+  QTest::mouseMove(&rows, {right, top});  // it is no longer held
 
   EXPECT_EQ(rows.FirstRow(), 2);
   EXPECT_EQ(clicks.Count, 0);
 }
 
-// The chosen folder is the last of many: beside its row stands the thumb, at the track's lower end.
+// The chosen folder is the last of many, so the thumb is beside its row, at the track's lower end.
 TEST(Lists, OnlyTwoClicksOfTheLeftButtonOnARowOpenIt) {
   ListsAtWork work;
   QTemporaryDir folder;
@@ -197,7 +197,7 @@ TEST(Lists, ACutRowShowsWholeWhenKeysChooseIt) {
   EXPECT_FALSE(work.window.flyout->isVisible());
 }
 
-TEST(Lists, AChosenRowIsFilledWithTheAccentAlsoWithoutTheKeyboard) {
+TEST(Lists, AChosenRowIsFilledWithTheAccentEvenWithoutTheKeyboard) {
   ListsAtWork work;
   work.main.Pro_Lst.ListIndex = 1;
   work.window.focusWidget()->clearFocus();
@@ -208,7 +208,7 @@ TEST(Lists, AChosenRowIsFilledWithTheAccentAlsoWithoutTheKeyboard) {
   EXPECT_EQ(QColor(shot.pixel(row.left() + 1, row.center().y())), QColor("#0B6E7F"));
 }
 
-TEST(Lists, AListThatIsNotVisibleHearsNoClick) {
+TEST(Lists, AHiddenListHearsNoClick) {
   ListsAtWork work;
   work.main.Pro_Lst.Visible = false;
 

@@ -57,7 +57,7 @@ TEST(Menus, AnEntrySwitchedOffInTheLogicIsOffInTheMenu) {
   EXPECT_FALSE(ActionOf(work, work.main.M_Rbn).isEnabled());
 }
 
-TEST(Menus, LeavingStandsBehindAHairline) {
+TEST(Menus, ExitFollowsAHairline) {
   WindowAtWork work;
   const auto entries = ActionOf(work, work.main.OpTs).menu()->actions();
   const auto exit = entries.indexOf(&ActionOf(work, work.main.ExitEntry));
@@ -71,7 +71,7 @@ TEST(Menus, TheStripIsTwentyPixelsHighAndItsDropDownHasItsMeasures) {
   QMenu* menu = ActionOf(work, work.main.OpTs).menu();
 
   EXPECT_EQ(work.window.strip->geometry(), QRect(0, 0, 567, 20));
-  // Six entries of 22, a hairline of 9, a padding of 4 and an edge of 1 at both ends.
+  // Six entries of 22, a hairline of 9, and at both ends a padding of 4 and an edge of 1.
   EXPECT_EQ(menu->sizeHint().height(), 6 * 22 + 9 + 2 * 5);
 }
 

@@ -1,4 +1,4 @@
-// Picture files, read back by a program that is not ours and compared with what is on the screen.
+// Picture files, read back by a program that is not ours and compared with the screen.
 #include "desktop/picture_files.h"
 
 #include <cmath>
@@ -40,7 +40,7 @@ QImage OnThePalette(QImage image) {
   return image;
 }
 
-// Decibels, of all three channels together.
+// In decibels, for all three channels together.
 double PeakSignalToNoise(const QImage& a, const QImage& b) {
   double squares = 0;
   for (int y = 0; y < a.height(); ++y) {
@@ -58,7 +58,7 @@ struct PictureFiles : WindowAtWork, testing::Test {
     outer.mkdir("own");
     platform.Folder = folder.toStdString();
     SelectRow(desk, main.Pro_Lst, 1);  // the alpha helix
-    main.Timer1.Interval = 1000000;    // no tick but the test's own
+    main.Timer1.Interval = 1000000;    // no ticks but the test's own
   }
 
   QTemporaryDir place;
@@ -106,7 +106,7 @@ TEST_F(PictureFiles, AJpegComesCloseToTheSurfaceAtItsQuality) {
   EXPECT_GT(PeakSignalToNoise(image, Surface()), 30);
 }
 
-TEST_F(PictureFiles, AGifHoldsEachPixelInThePalettesNearestColour) {
+TEST_F(PictureFiles, AGifHoldsEachPixelInTheNearestColourOfThePalette) {
   const QString path = Save(main.S_Gif);
   EXPECT_TRUE(path.endsWith("/abc.gif"));
   EXPECT_EQ(ReadBack(path), OnThePalette(Surface()));
@@ -144,7 +144,7 @@ TEST_F(PictureFiles, ARecordingIsAFilmOfEighteenFramesThatLoops) {
   EXPECT_NE(screens.front(), screens.back());
 }
 
-TEST_F(PictureFiles, ANewRecordingBeginsTheFileAnew) {
+TEST_F(PictureFiles, ANewRecordingStartsTheFileAgain) {
   for (int round = 0; round < 2; ++round) {
     platform.Answers = {"abc"};
     Click(desk, main.S_AnGif);
@@ -153,7 +153,7 @@ TEST_F(PictureFiles, ANewRecordingBeginsTheFileAnew) {
   EXPECT_EQ(Said("identify", {"-format", "x", folder + "/abc.gif"}).size(), 18);
 }
 
-TEST_F(PictureFiles, AFrameIsNotAddedToAFileThatIsNoFilm) {
+TEST_F(PictureFiles, AFrameIsNotAddedToAFileThatIsNotARecording) {
   platform.Answers = {"abc"};
   Click(desk, main.S_AnGif);
   for (int tick = 0; tick < 4; ++tick) Tick(desk, main.Timer1);
@@ -215,7 +215,7 @@ TEST_F(PictureFiles, ALargerPictureOnTheScreenIsALargerFile) {
   EXPECT_EQ(ReadBack(Save(main.S_bmp)), Surface());
 }
 
-TEST_F(PictureFiles, ASurfaceThatIsHiddenIsTakenAllTheSame) {
+TEST_F(PictureFiles, AHiddenSurfaceIsSavedAllTheSame) {
   Click(desk, main.Bt3_D_L_Str);
   EXPECT_EQ(ReadBack(Save(main.S_bmp)), Surface());
 }
@@ -229,11 +229,11 @@ TEST_F(PictureFiles, NamesThatLeadElsewhereWriteNothingOutsideTheFolder) {
   }
   EXPECT_EQ(outer.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
             QStringList{"own"});
-  // ".." and "." with a suffix behind them are names like others, of files in the folder.
+  // ".." and "." with a suffix after them are names like any other, of files in the folder.
   EXPECT_EQ(Files(), (QStringList{"...bmp", "...gif", "...jpg", "..bmp", "..gif", "..jpg"}));
 }
 
-TEST_F(PictureFiles, AFolderThatIsNoneEndsInAFailureAndTheProgramGoesOn) {
+TEST_F(PictureFiles, AFolderThatIsNotOneEndsInAFailureAndTheProgramGoesOn) {
   QFile file(place.path() + "/file");
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   platform.Folder = file.fileName().toStdString();
@@ -270,7 +270,7 @@ TEST(ThePictureFolder, IsTheProgramsOwnWhereTheUserMayWrite) {
   EXPECT_EQ(PictureFolder(program.path().toStdString()), program.path().toStdString());
 }
 
-TEST(ThePictureFolder, IsElseAFolderAmongTheUsersPicturesMadeWhenNeeded) {
+TEST(ThePictureFolder, OtherwiseIsAFolderAmongTheUsersPicturesMadeWhenNeeded) {
   const QTemporaryDir home;
   const QByteArray old_home = qgetenv("HOME"), old_config = qgetenv("XDG_CONFIG_HOME");
   qputenv("HOME", home.path().toUtf8());

@@ -19,7 +19,7 @@ struct PictureAtWork : WindowAtWork {
     auto& rows = dynamic_cast<RowList&>(WidgetOf(list));
     QTest::mouseClick(&rows, Qt::LeftButton, {}, rows.RowMiddle(row));
   }
-  // What the screen shows where an atom lies.
+  // What the screen shows at the place of an atom.
   QRgb PixelAt(std::size_t atom) {
     const QImage shot = WidgetOf(main.Picture1).grab().toImage();
     const double ratio = window.devicePixelRatioF();
@@ -59,7 +59,7 @@ TEST(ThePicture, IsRasteredAtTheDensityOfTheScreen) {
   EXPECT_EQ(shot.width(), static_cast<int>(360 * ratio));
 }
 
-TEST(ThePicture, IsPaintedOnceHoweverOftenItWasDrawnOn) {
+TEST(ThePicture, IsPaintedOnceNoMatterHowOftenItWasDrawnOn) {
   PictureAtWork work;
   Paints paints;
   const auto painted = [&] { return paints.Count >= 1; };

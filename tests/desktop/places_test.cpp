@@ -57,7 +57,7 @@ TEST(Places, EveryControlThatTakesTheKeyboardHasAWordForAScreenReader) {
 
   for (const Control* control : work.main.Controls) {
     if (control->Row.TabStop == 0) continue;
-    // A swatch is told by its colour alone, so what it does is its word.
+    // Only its colour tells a swatch from the others, so its word is what it does.
     const QWidget& widget = work.WidgetOf(*control);
     EXPECT_FALSE(widget.accessibleDescription().isEmpty()) << control->FullName();
     if (control->Name != "P_Clr") {
@@ -66,7 +66,7 @@ TEST(Places, EveryControlThatTakesTheKeyboardHasAWordForAScreenReader) {
   }
 }
 
-TEST(Places, EdgesOfTheGroupsStandInLine) {
+TEST(Places, EdgesOfTheGroupsAreAligned) {
   WindowAtWork work;
   if (work.window.scale.Unit() != 1) GTEST_SKIP() << "told in pixels of 100 per cent";
   const auto left = [&](const Control& c) { return work.ViewOf(c).Stand().Face.left(); };

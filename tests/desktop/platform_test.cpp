@@ -10,14 +10,14 @@
 namespace orvane {
 namespace {
 
-// Runs once the box is up; the box waits for it.
+// Runs once the box is open; the box waits for it.
 void WhenABoxIsUp(const std::function<void(QWidget&)>& act) {
   QTimer::singleShot(50, [act] {
     if (QWidget* box = QApplication::activeModalWidget()) act(*box);
   });
 }
 
-TEST(Platform, AMessageHasTheProgramsTitleItsTextAsItStandsAndClosesByEscape) {
+TEST(Platform, AMessageHasTheProgramsTitleAndItsExactTextAndClosesByEscape) {
   QtPlatform platform;
   QString title, text;
   WhenABoxIsUp([&](QWidget& box) {

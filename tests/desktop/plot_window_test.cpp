@@ -34,7 +34,7 @@ struct Map : testing::Test {
   bool Shows(const Control& control) { return program.WidgetOf(control).isVisible(); }
 };
 
-TEST_F(Map, StandsAtItsPlaceWithItsSizeAndLeavesTheDeskUsable) {
+TEST_F(Map, HasItsPlaceAndSizeAndLeavesTheDeskUsable) {
   WindowWidget& window = program.WindowOf(plot);
 
   EXPECT_EQ(window.size(), QSize(409, 475));
@@ -144,7 +144,7 @@ TEST_F(Map, LettersInSymbolReadAsWords) {
   EXPECT_EQ(name(plot.Label6[2]), "psi");
 }
 
-TEST_F(Map, EveryTextHasLettersOfItsOwn) {
+TEST_F(Map, EveryTextHasItsOwnLetters) {
   for (const Control* control : plot.Controls) {
     const bool has_text =
         !control->Caption.Get().empty() && control->Row.Kind != ControlKind::Frame;

@@ -20,7 +20,7 @@ TEST(Pointer, APressOnThePictureIsGivenInPixelsOfTheSurface) {
   EXPECT_EQ(releases.Count, 1);
 }
 
-TEST(Pointer, ADragTellsTheButtonsThatAreHeld) {
+TEST(Pointer, ADragSaysWhichButtonsAreHeld) {
   WindowAtWork work;
   Heard moves(work.main.Picture1, EventKind::Move);
   QWidget& picture = work.WidgetOf(work.main.Picture1);
@@ -56,7 +56,7 @@ TEST(Pointer, OnlyTheLeftButtonClicks) {
 }
 
 // The right button is let go while the left one is held.
-TEST(Pointer, NoOtherButtonThatIsLetGoClicksForTheLeft) {
+TEST(Pointer, ReleasingAnotherButtonDoesNotClickForTheLeft) {
   WindowAtWork work;
   for (const Control* control : std::initializer_list<const Control*>{
            &work.main.Bt3_Dts, &work.main.Picture1, &work.main.Bt_M_Ld}) {
@@ -82,7 +82,7 @@ TEST(Pointer, ADisabledButtonHearsNothing) {
   EXPECT_EQ(clicks.Count, 0);
 }
 
-TEST(Pointer, ComingOntoAControlIsToldOnce) {
+TEST(Pointer, EnteringAControlIsReportedOnce) {
   WindowAtWork work;
   Heard comings(work.main.Bt3_Reset, EventKind::Enter);
   QWidget& reset = work.WidgetOf(work.main.Bt3_Reset);
@@ -94,7 +94,7 @@ TEST(Pointer, ComingOntoAControlIsToldOnce) {
 }
 
 // From a button onto the bare ground round it: the toolkit sees no coming there, the desk does.
-TEST(Pointer, ComingOntoTheGroundIsToldForTheWindow) {
+TEST(Pointer, EnteringTheGroundIsReportedForTheWindow) {
   WindowAtWork work;
   Heard comings(work.main, EventKind::Enter);
   work.PointAt(work.WidgetOf(work.main.Bt3_Reset), {5, 5});
@@ -123,7 +123,7 @@ TEST(Pointer, AnOrnamentLetsTheClickThrough) {
   EXPECT_EQ(line.focusPolicy(), Qt::NoFocus);
 }
 
-TEST(Pointer, TheTabsCaptionComesOutUnderIt) {
+TEST(Pointer, TheTabsCaptionAppearsUnderIt) {
   WindowAtWork work;
   QWidget& tab = work.WidgetOf(work.main.Bt_M_Ld);
   Heard clicks(work.main.Bt_M_Ld, EventKind::Click);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Pages printed through a print server of the test's own, on a PDF printer, and looked at as pixels:
-# print_to_paper.sh TESTS. Only root can run that printer; anybody else skips (77).
+# print_to_paper.sh TESTS prints pages through the test's own print server on a PDF printer, and checks
+# them as pixels. Only root can run that printer; for any other user the test skips (77).
 set -euo pipefail
 tests=$1
 [ "$(id -u)" = 0 ] || { echo "only root can run the PDF printer"; exit 77; }
@@ -49,7 +49,7 @@ AnonDirName $place/out
 Spool $place/spool
 Log $place/log
 END
-# The PDF printer knows one place for its settings; only this server sees ours there.
+# The PDF printer looks for its settings in one place only; only this server sees ours there.
 unshare -m true 2>/dev/null || { echo "no file system of its own for the server here"; exit 77; }
 unshare -m sh -c 'mount --bind "$0/etc/cups-pdf.conf" /etc/cups/cups-pdf.conf &&
   exec cupsd -f -c "$0/etc/cupsd.conf" -s "$0/etc/cups-files.conf"' "$place" &
@@ -78,19 +78,19 @@ for page in "${pages[@]}"; do
   if [ -n "${ORVANE_KEEP_PAGES:-}" ]; then cp "$place/$number.png" "$page" "$ORVANE_KEEP_PAGES"; fi
 done
 
-# Where black begins and ends on a page: WIDTH HEIGHT LEFT TOP; and the page's own width.
+# Where black begins and ends on a page: WIDTH HEIGHT LEFT TOP; then the page's own width.
 black_box() {
   convert "$1" -alpha off -fill white +opaque black -bordercolor white -border 1 -trim \
     -format '%w %h %X %Y\n' info: | tr -d +
 }
-# What stands on the first rows of a page: WIDTH LEFT.
+# Where the ink on the first rows of a page is: WIDTH LEFT.
 ink_above() {
   convert "$1" -crop "x$2+0+0" +repage -alpha off -bordercolor white -border 1 -trim \
     -format '%w %X\n' info: | tr -d +
 }
 paper=$(identify -format %w "$place/1.png")
 
-# The surface: a square of 5400 twips on a page of 6600, in the middle across.
+# The surface: a square of 5400 twips on a page of 6600, centred from side to side.
 read -r width height left top < <(black_box "$place/1.png")
 [ $((width - height)) -le 3 ] && [ $((height - width)) -le 3 ] || fail "the picture is $width x $height"
 middle=$((2 * left - 2 + width - paper))
@@ -112,7 +112,7 @@ middle=$((2 * begin + long - paper))
 [ "$long" -ge 50 ] && [ $((middle * 6600 / paper)) -ge -300 ] && [ $((middle * 6600 / paper)) -le 300 ] ||
   fail "the pair's heading is $long wide, at $begin"
 
-# The plot's three areas reach over most of the paper's width: the pink of the largest.
+# The plot's three areas take up most of the paper's width: look for the pink of the largest.
 pink=$(convert "$place/3.png" -alpha off -fuzz 3% -fill white +opaque 'rgb(255,206,206)' \
   -bordercolor white -border 1 -trim -format %w info:)
 [ $((pink * 100 / paper)) -ge 40 ] || fail "the plot is $pink wide on $paper"

@@ -1,5 +1,5 @@
-// The printed page, drawn on an image as if that were paper; and, where a test printer is given, on
-// paper (print_to_paper.sh).
+// The printed page, drawn on an image as if it were paper. If a test printer is given, it is also
+// printed on paper (print_to_paper.sh).
 #include "desktop/printed_page.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ struct PrintedPage : WindowAtWork, testing::Test {
     SelectRow(desk, main.Pro_Lst, 1);
   }
 
-  // Ten twips a pixel when the paper is 660 pixels wide.
+  // A pixel is ten twips when the paper is 660 pixels wide.
   QImage Drawn(int width = 660, int height = 900) {
     QImage paper(width, height, QImage::Format_RGB32);
     paper.fill(Qt::white);
@@ -54,7 +54,7 @@ TEST_F(PrintedPage, HoldsTheSurfaceAtItsPlaceAndItsNameAboveIt) {
   const QImage paper = Drawn();
 
   EXPECT_EQ(paper.copy(60, 120, 540, 540), RasterOf(*main.Picture1.Image(), 540));
-  // Mol_Name: 600, 840 twips, 315 high; its text ends where it ends.
+  // Mol_Name: 600, 840 twips, 315 high; it is as wide as its text.
   const QRect name = InkIn(paper, QRect(0, 0, 660, 120));
   EXPECT_GE(name.left(), 60);
   EXPECT_LE(name.left(), 63);
@@ -69,7 +69,7 @@ TEST_F(PrintedPage, HoldsAPairAtItsPlacesWithItsCaptions) {
   Click(desk, main.PrImg);
   const QImage paper = Drawn();
 
-  // 3135 twips are 313.5 pixels: half a pixel is left out of the comparison all round.
+  // 3135 twips are 313.5 pixels, so the comparison leaves out half a pixel all round.
   for (const int left : {12, 336}) {
     EXPECT_EQ(qRgb(0, 0, 0), paper.pixel(left + 3, 216 + 3));
     EXPECT_EQ(qRgb(0, 0, 0), paper.pixel(left + 310, 216 + 310));
@@ -99,13 +99,13 @@ TEST_F(PrintedPage, NamesTheFormsOfAnEnantiomerPair) {
   EXPECT_NEAR(right.left() + right.width() / 2.0, 486.75, 2);
 }
 
-TEST_F(PrintedPage, IsAsWideAsThePaperAndStandsAtItsTop) {
+TEST_F(PrintedPage, IsAsWideAsThePaperAndAtItsTop) {
   Click(desk, main.PrImg);
   const QImage paper = Drawn(1320, 1800);
   EXPECT_EQ(paper.copy(120, 240, 1080, 1080), RasterOf(*main.Picture1.Image(), 1080));
 }
 
-TEST_F(PrintedPage, StandsInTheMiddleOfPaperThatIsTooWide) {
+TEST_F(PrintedPage, IsInTheMiddleOfPaperThatIsTooWide) {
   Click(desk, main.PrImg);
   // 7200 twips in 720 pixels: the page is 660 wide and leaves 170 on either side.
   const QImage paper = Drawn(1000, 720);
@@ -120,7 +120,7 @@ TEST_F(PrintedPage, ALongNameEndsBeforeThePagesEdge) {
   EXPECT_GT(name.right(), 620);
 }
 
-TEST_F(PrintedPage, OfThePlotIsItsWindowOnceMoreAndAsLargeAsThePaper) {
+TEST_F(PrintedPage, OfThePlotIsItsWindowAsLargeAsThePaper) {
   Click(desk, main.RCDP);
   const Place plan = desk.plot.Row.At;
   const int width = 3 * plan.Width / TwipsPerPixel, height = 3 * plan.Height / TwipsPerPixel;
@@ -132,7 +132,7 @@ TEST_F(PrintedPage, OfThePlotIsItsWindowOnceMoreAndAsLargeAsThePaper) {
     DrawWindow(painter, QRectF(paper.rect()), 100, skin, desk.plot);
   }
 
-  // Three times as large, it looks like the window on the screen where one averages over pixels.
+  // It is three times as large, and looks like the window on the screen when pixels are averaged.
   const QImage small =
       paper.copy(0, 0, width, height)
           .scaled(width / 3, height / 3, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -148,7 +148,7 @@ TEST_F(PrintedPage, OfThePlotIsItsWindowOnceMoreAndAsLargeAsThePaper) {
   EXPECT_TRUE(desk.plot.Visible);
 }
 
-// A picture of the screen's size that is blown up has not these pixels.
+// An enlarged picture of the screen's size would not have these pixels.
 TEST_F(PrintedPage, OfThePlotIsPaintedInThePixelsOfThePaper) {
   Click(desk, main.RCDP);
   const Place plan = desk.plot.Row.At;
@@ -180,7 +180,7 @@ TEST_F(PrintedPage, WithoutAPrinterIsRefusedWithAMessageAndTheProgramGoesOn) {
                                      "properly."});
 }
 
-// Three pages to the default printer of a print server of the test's own.
+// Sends three pages to the default printer of the test's own print server.
 TEST(OnPaper, ASurfaceAPairAndThePlotArePrinted) {
   if (!qEnvironmentVariableIsSet("ORVANE_TEST_PRINTER")) {
     GTEST_SKIP() << "print_to_paper.sh gives the printer";

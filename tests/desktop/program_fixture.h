@@ -1,4 +1,4 @@
-// All the windows as the program starts them, from the splash on.
+// All the windows as the program starts them, beginning with the splash.
 #pragma once
 
 #include "shell/start_up.h"

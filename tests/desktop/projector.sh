@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# The projector's view: the program on a virtual screen with a window manager, made large and small
-# again by its title bar, as a teacher does: projector.sh PROGRAM [WIDTHxHEIGHT [DENSITY [PICTURE]]].
-# PICTURE: a file for what the screen shows while the desk is large.
+# The view of a projector: projector.sh PROGRAM [WIDTHxHEIGHT [DENSITY [PICTURE]]] runs the program on
+# a virtual screen with a window manager, and enlarges and restores it by its title bar, as a teacher
+# does. PICTURE is a file for what the screen shows while the desk is large.
 set -euo pipefail
 program=$1
 size=${2:-1920x1080}
@@ -30,7 +30,7 @@ until_true "no window manager" xdotool get_num_desktops >/dev/null 2>&1
 
 "$program" &
 children+=($!)
-# A window that goes while it is looked for ends xdotool, so it is asked again.
+# xdotool ends if a window disappears during the search, so search again.
 find_window() {
   window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -1) && [ -n "$window" ]
 }
@@ -42,7 +42,7 @@ until_true "no window came up" find_window '^Orvane \(OVN\) V3\.0$'
 
 WIDTH=0 HEIGHT=0
 measure() { eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=')"; }
-# The plan at that density, or where the screen is too small for it, smaller in the same proportions.
+# The plan at that density, or smaller in the same proportions if the screen is too small for it.
 is_normal() {
   measure && echo "$WIDTH $HEIGHT $QT_SCALE_FACTOR ${size%x*} ${size#*x}" | awk '{
     whole = $1 >= int(567 * $3) && $1 <= 567 * $3 + 1 && $2 >= int(485 * $3) && $2 <= 485 * $3 + 1
@@ -51,7 +51,7 @@ is_normal() {
     exit !(fits ? whole : smaller) }'
 }
 is_large() { measure && [ "$WIDTH" = "${size%x*}" ] && [ "$HEIGHT" -gt $((${size#*x} * 9 / 10)) ]; }
-# From the plan of 567 by 485 to the window: as large as it allows, and in its middle.
+# From the plan of 567 by 485 to the window: as large as the window allows, and centred in it.
 on_screen() {  # x y ...
   echo "$@" | awk -v w="$WIDTH" -v h="$HEIGHT" '{
     f = w / 567 < h / 485 ? w / 567 : h / 485
@@ -72,7 +72,7 @@ nitrogen() {
 }
 see_nitrogen() { ball=$(nitrogen); }
 plus() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f", a + b }'; }
-# Pixels of white where the tag of an atom at x y stands, which begins there.
+# White pixels in the tag of an atom at x y, which begins there.
 white_at() {
   shot png | convert png:- -crop "$(on_screen "$1" "$2" "$(plus "$1" 40)" "$(plus "$2" 14)" |
     awk '{ printf "%dx%d+%d+%d", $3 - $1, $4 - $2, $1, $2 }')" +repage \
@@ -102,7 +102,7 @@ until_true "no ball of nitrogen in the large picture" see_nitrogen
 echo "$ball $small_ball" | awk '{ exit !(($1 - $3) ^ 2 + ($2 - $4) ^ 2 < 1) }' ||
   fail "the ball is at $ball, and was at $small_ball"
 
-# A press six pixels of the surface beside it picks nothing, for the reach is three; a press on it
+# A press six surface pixels beside the ball picks nothing, since the reach is three. A press on it
 # prints its name there.
 before=$(white_at $ball)
 point "$(plus "${ball% *}" -6)" "${ball#* }" && xdotool click 1
@@ -111,14 +111,14 @@ has_tag && fail "a press beside the ball picks it"
 point $ball && xdotool click 1
 until_true "a press on the ball picks nothing" has_tag
 
-# A drag turns what it is drawn over.
+# A drag over the picture turns it.
 was=$(picture)
 point 280 330 && xdotool mousedown 3
 for x in 290 300 310 320; do point "$x" 330; done
 xdotool mouseup 3
 until_true "a drag turns nothing" has_another_picture
 
-# Small again, it has its fixed size, and a press still lands where it looks.
+# Restored, the window has its fixed size, and a press still picks what is under it.
 [ -z "${4:-}" ] || import -window root "$4"
 turn_large
 until_true "it does not come back to its fixed size" is_back

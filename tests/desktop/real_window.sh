@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The program on a virtual screen, driven by a pointer and keys of the screen: real_window.sh PROGRAM.
+# real_window.sh PROGRAM runs the program on a virtual screen, with the screen's own pointer and keys.
 set -euo pipefail
 program=$1
 exec 3< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>/dev/null)
@@ -24,7 +24,7 @@ expect_pixel() {  # x y colour, within three seconds
 "$program" &
 child=$!
 trap 'kill "$child" "$screen" 2>/dev/null || true' EXIT
-# The way in: splash, overview, desk. Enter goes on.
+# The way in: splash, overview, desk. Enter goes to the next.
 for title in '^Orvane$' "^What's new in OVN$"; do
   window=$(timeout 30 xdotool search --sync --onlyvisible --name "$title" | head -1)
   [ -n "$window" ] || fail "no window $title came up"
@@ -37,11 +37,11 @@ eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)='
 expect_pixel 232 200 000000 "the picture is black"
 expect_pixel 200 3 FFFFFF "the strip is white"
 
-# The pointer comes onto a button: its edge takes the accent.
+# When the pointer is over a button, its edge has the accent colour.
 xdotool mousemove --window "$window" 46 32
 expect_pixel 4 32 0B6E7F "the button under the pointer has the accent's edge"
 
-# An axis is chosen by a click: X is pressed, Y is not.
+# A click chooses an axis: X is pressed, Y is not.
 xdotool mousemove --window "$window" 13 53 click 1
 sleep 0.2
 xdotool mousemove --window "$window" 300 200

@@ -1,4 +1,4 @@
-// What comes up when the pointer rests on an atom or on a circle of the map.
+// The tip that appears when the pointer rests on an atom or on a circle of the map.
 #include <cmath>
 #include <gtest/gtest.h>
 
@@ -21,14 +21,14 @@ struct RestTipTest : testing::Test, WindowAtWork {
       if (rows[row].starts_with(start)) SelectRow(desk, list, static_cast<int>(row));
     }
   }
-  // A point of a control's own pixels in its widget's.
+  // Turns a point in a control's pixels into one in its widget's pixels.
   static QPoint InWidget(const ControlView& view, double x, double y) {
     return (view.FaceInWidget().topLeft() + QPointF(x, y) * view.host.scale.Factor).toPoint();
   }
   QPoint AtAtom(int i) {
     return InWidget(ViewOf(main.Picture1), molecule.ScrX[i], molecule.ScrY[i]);
   }
-  // The toolkit's own message to a widget over which the pointer has rested.
+  // The message that the toolkit sends to a widget when the pointer rests over it.
   static void Rest(QWidget& widget, QPoint at) {
     QHelpEvent rest(QEvent::ToolTip, at, widget.mapToGlobal(at));
     QApplication::sendEvent(&widget, &rest);
@@ -40,7 +40,7 @@ struct RestTipTest : testing::Test, WindowAtWork {
   }
 };
 
-TEST_F(RestTipTest, APointerThatRestsOnAnAtomIsToldItsName) {
+TEST_F(RestTipTest, APointerThatRestsOnAnAtomGetsItsName) {
   Choose(main.AA_Lst, "SER");
   PointAt(WidgetOf(main.Picture1), AtAtom(11) + QPoint(20, 0));
   PointAt(WidgetOf(main.Picture1), AtAtom(11));
@@ -51,14 +51,14 @@ TEST_F(RestTipTest, APointerThatRestsOnAnAtomIsToldItsName) {
             "1.422 Å from CB, angle OG–CB–CA 108.1°, torsion OG–CB–CA–N 53.7°");
 }
 
-TEST_F(RestTipTest, BesideTheAtomsTheControlsOwnTipComes) {
+TEST_F(RestTipTest, BesideTheAtomsTheControlsOwnTipAppears) {
   Choose(main.AA_Lst, "SER");
   Rest(WidgetOf(main.Picture1), {3, 3});
   EXPECT_EQ(QToolTip::text(), WidgetOf(main.Picture1).toolTip());
   EXPECT_FALSE(QToolTip::text().isEmpty());
 }
 
-TEST_F(RestTipTest, WhileAButtonIsHeldNothingIsTold) {
+TEST_F(RestTipTest, WhileAButtonIsHeldNoTipAppears) {
   Choose(main.Nuc_Lst, "PHS");
   const QPoint at = AtAtom(3);
   QWidget& picture = WidgetOf(main.Picture1);
@@ -75,7 +75,7 @@ TEST_F(RestTipTest, TheTipGoesWhenThePictureChanges) {
   EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }, 10000));
 }
 
-// The tip over the atom has made way for that of a button, which the picture has no part in.
+// The tip of a button, which has nothing to do with the picture, has replaced that of the atom.
 TEST_F(RestTipTest, ATipOfAnotherControlStaysWhenThePictureChanges) {
   Choose(main.Nuc_Lst, "PHS");
   ASSERT_NE(TipAtAtom(3), "");
@@ -99,7 +99,7 @@ TEST_F(RestTipTest, AnAtomIsFoundInAMaximisedWindowToo) {
   EXPECT_EQ(TipAtAtom(5), "Oxygen OP2 of Phosphate, atom 5");
 }
 
-// The tip of a projector's desk can be read from the back row.
+// The tips of a desk on a projector can be read from the back row.
 TEST_F(RestTipTest, TipsGrowWithTheDeskAndShrinkAgain) {
   EXPECT_EQ(QToolTip::font().pixelSize(), 11);
   window.showMaximized();
@@ -135,7 +135,7 @@ TEST_F(RestTipTest, RestingDrawsNothingAndRaisesNothing) {
   EXPECT_TRUE(platform.Effects.empty());
 }
 
-TEST_F(RestTipTest, ACircleOfTheMapTellsItsResidue) {
+TEST_F(RestTipTest, ACircleOfTheMapNamesItsResidue) {
   Choose(main.Pro_Lst, "Beta");
   Click(desk, main.RCDP);
   WindowWidget& plot = skin.WindowOf(desk.plot);

@@ -11,7 +11,8 @@ TEST(Scale, AtOneHundredPerCentFifteenTwipsAreAPixel) {
   EXPECT_EQ(scale.Device(Place{60, 330, 1290, 300}), QRect(4, 22, 86, 20));
 }
 
-// At 125 per cent a pixel of the plan is 1.25: corners 5 and 5 + 25 = 30, then 33.75 and 58.75.
+// At 125 per cent a pixel of the plan is 1.25 pixels: corners 5 and 5 + 25 = 30, then 33.75 and
+// 58.75.
 TEST(Scale, CornersAreRoundedAndWidthsFollow) {
   const Scale scale{1, 1.25};
 
@@ -45,7 +46,7 @@ TEST(Scale, TheToolkitsRectangleCoversTheFaceAndWhatIsPaintedRoundIt) {
 
   const Spot spot = SpotOf(scale, {60, 60, 300, 300}, 6);
 
-  // 4 to 24 pixels are 6 to 36 device pixels; 9 more round them, over 1.5.
+  // 4 to 24 pixels are 6 to 36 device pixels. Add 9 on each side, and divide by 1.5.
   EXPECT_EQ(spot.Face, QRect(6, 6, 30, 30));
   EXPECT_EQ(spot.Hull, QRect(-2, -2, 32, 32));
 }

@@ -1,5 +1,5 @@
-# What a screen reader does, and nothing else: reads names, roles and states, hears events, does
-# actions and presses keys, all over AT-SPI. Started by screen_reader.sh with the program's path.
+# Does what a screen reader does and nothing else: it reads names, roles and states, hears events,
+# does actions and presses keys, all over AT-SPI. screen_reader.sh starts it with the program's path.
 import math
 import subprocess
 import sys
@@ -17,8 +17,8 @@ KEYS = {'Home': 0xff50, 'Down': 0xff54, 'space': 0x20, 'n': 0x6e}
 N = (11.140, 8.020, 1.544)
 CA = (10.466, 6.872, 2.145)
 
-spoken = []   # names of notices that came to be shown
-focused = []  # names of what the keyboard came to
+spoken = []   # names of notices that appeared
+focused = []  # names of the controls that got the keyboard
 renamed = []
 
 
@@ -33,7 +33,7 @@ def hear(event):
         else:
             renamed.append(event.source.name)
     except GLib.Error:
-        pass  # its source has gone meanwhile
+        pass  # its source has disappeared meanwhile
 
 
 def expect(holds, claim):
@@ -49,7 +49,7 @@ def wait_for(answer, claim):
         try:
             found = answer()
         except GLib.Error:
-            found = None  # asked while it came or went
+            found = None  # asked while it appeared or disappeared
         if found:
             return found
         GLib.MainContext.default().iteration(True)
@@ -88,7 +88,7 @@ def window(title):
 
 
 def find(role, begin, inside=None):
-    """What shows in a window with that role and a name that begins so."""
+    """What is shown in a window with that role and a name that begins like this."""
     for control in below(inside or desk):
         if control.getRole() == role and control.name.startswith(begin) and shows(control):
             return control
@@ -145,7 +145,7 @@ def choose_alanine():
 
 
 def step_by_keys(picture):
-    """Onto the picture, and to its first two atoms: each is read, and each is picked."""
+    """Goes to the picture and to its first two atoms: each is read, and each is picked."""
     picture.queryComponent().grabFocus()
     wait_for(lambda: has(picture, pyatspi.STATE_FOCUSED), 'the picture did not take the keyboard')
     for key, atom, order in (('Home', 'Nitrogen N of alanine, atom 1', 'first'),
@@ -193,7 +193,7 @@ for kind in ('object:state-changed:showing', 'object:state-changed:focused',
              'object:property-change:accessible-name'):
     pyatspi.Registry.registerEventListener(hear, kind)
 pyatspi.Registry.getDesktop(0).set_cache_mask(Atspi.Cache.NONE)
-GLib.timeout_add(20, lambda: True)  # so that waiting looks again when no event comes
+GLib.timeout_add(20, lambda: True)  # wakes the loop up to look again when no event comes
 child = subprocess.Popen([sys.argv[1]])
 try:
     desk = the_way_in()

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# The program on a virtual screen, used as by somebody who does not see it, and what its windows tell:
-# screen_reader.sh PROGRAM TESTS.
-# Screen, session bus and accessibility bus are the test's own, and end with it.
+# screen_reader.sh PROGRAM TESTS uses the program on a virtual screen as someone would who cannot see
+# it, and checks what its windows say.
+# Screen, session bus and accessibility bus belong to the test and end with it.
 set -euo pipefail
 program=$1
 tests=$2
@@ -20,9 +20,9 @@ dbus-run-session -- /usr/bin/python3 -B "$here/screen_reader.py" "$program" >"$f
   cat "$folder/said"
   exit 1
 }
-# The bus for readers comes up when it is asked where it is.
+# The accessibility bus starts when someone asks for its address.
 export ORVANE_TEST_PLATFORM=xcb
-# shellcheck disable=SC2016 # the words of the inner shell
+# shellcheck disable=SC2016 # the inner shell expands it
 dbus-run-session -- bash -c '
   dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus org.a11y.Bus.GetAddress
   exec "$0" --gtest_filter="ScreenReader.*:AListeningReader.*"' "$tests" \

@@ -1,4 +1,4 @@
-// What a screen reader finds at the windows, asked as the toolkit asks for it.
+// What a screen reader finds in the windows, asked the way the toolkit asks.
 #include <gtest/gtest.h>
 #include <set>
 #include <vector>
@@ -31,8 +31,8 @@ void Do(QAccessibleInterface* reader, const QString& action) {
 const QString kPress = QAccessibleActionInterface::pressAction();
 const QString kToggle = QAccessibleActionInterface::toggleAction();
 
-// Nothing is told where nobody listens. screen_reader.sh plays these tests on a screen whose bus
-// for readers is on, and lets none of them be skipped.
+// Nothing is announced if nobody listens. screen_reader.sh runs these tests on a screen whose
+// accessibility bus is on, and fails if any of them is skipped.
 class AListeningReader : public testing::Test {
  protected:
   void SetUp() override {
@@ -43,7 +43,7 @@ class AListeningReader : public testing::Test {
   }
 };
 
-// What readers are told while this lives.
+// Keeps what screen readers are told while it exists.
 struct Told {
   struct Word {
     QAccessible::Event Kind;
@@ -156,7 +156,7 @@ TEST(ScreenReader, ARowIsFoundUnderThePointer) {
   EXPECT_TRUE(list->rect().contains(list->child(3)->rect()));
 }
 
-TEST_F(AListeningReader, ChoosingARowIsAClickOnItAndIsTold) {
+TEST_F(AListeningReader, ChoosingARowIsAClickOnItAndIsAnnounced) {
   WindowAtWork work;
   List& list = work.main.AA_Lst;
   Heard clicks(list, EventKind::Click);
@@ -176,7 +176,7 @@ TEST_F(AListeningReader, ChoosingARowIsAClickOnItAndIsTold) {
   EXPECT_EQ(Told::Count(QAccessible::Focus, NameOf(reader->child(2))), 1);
 }
 
-TEST_F(AListeningReader, TheKeyboardComingToAListLeadsOnToItsRow) {
+TEST_F(AListeningReader, TheKeyboardOnAListGoesOnToItsRow) {
   WindowAtWork work;
   SelectRow(work.desk, work.main.Pro_Lst, 1);
   work.WidgetOf(work.main.Bt3_Dts).setFocus();
@@ -211,7 +211,7 @@ TEST(ScreenReader, WhatIsDisabledCannotBeDone) {
   EXPECT_TRUE(reader->actionInterface()->actionNames().isEmpty());
 }
 
-TEST_F(AListeningReader, AToggleTellsItsStateWhenItTurns) {
+TEST_F(AListeningReader, AToggleAnnouncesItsStateWhenItChanges) {
   WindowAtWork work;
   SelectRow(work.desk, work.main.AA_Lst, 2);
   QAccessibleInterface* reader = InterfaceOf(work.WidgetOf(work.main.Bt3_Label));
@@ -263,8 +263,8 @@ TEST(ScreenReader, ABarHasAValueThatCanBeSet) {
   EXPECT_EQ(changes.Count, 2);
 }
 
-// A step may open a box, and the reader would wait in its call until the user has closed that.
-TEST(ScreenReader, ABarIsSteppedWhenTheReadersCallIsOver) {
+// A step may open a box, and the reader would wait in its call until the user closes the box.
+TEST(ScreenReader, ABarStepsWhenTheReadersCallIsOver) {
   WindowAtWork work;
   ScrollBar& bar = work.main.ZoomBar;
   QAccessibleInterface* reader = InterfaceOf(work.WidgetOf(bar));
@@ -275,7 +275,7 @@ TEST(ScreenReader, ABarIsSteppedWhenTheReadersCallIsOver) {
   QCoreApplication::processEvents();
   EXPECT_EQ(bar.Value, 30);
 
-  // Two steps of 5 that are asked for before the first is done.
+  // Two steps of 5, both asked for before the first is done.
   reader->actionInterface()->doAction(increase);
   reader->actionInterface()->doAction(increase);
   EXPECT_EQ(bar.Value, 30);
@@ -283,7 +283,7 @@ TEST(ScreenReader, ABarIsSteppedWhenTheReadersCallIsOver) {
   EXPECT_EQ(bar.Value, 40);
 }
 
-TEST(ScreenReader, ABarThatIsDisabledMeanwhileIsNotStepped) {
+TEST(ScreenReader, ABarThatIsDisabledMeanwhileDoesNotStep) {
   WindowAtWork work;
   ScrollBar& bar = work.main.ZoomBar;
 
@@ -325,7 +325,7 @@ TEST_F(AListeningReader, TheResultIsAnnouncedWhenItChanges) {
 }
 
 // Alanine has 13 atoms, and the first of its records is the nitrogen of the backbone.
-TEST(ScreenReader, ThePictureSaysWhatItShowsAndWhereTheWalkStands) {
+TEST(ScreenReader, ThePictureSaysWhatItShowsAndWhereTheWalkIs) {
   WindowAtWork work;
   QAccessibleInterface* picture = InterfaceOf(work.WidgetOf(work.main.Picture1));
   EXPECT_EQ(picture->role(), QAccessible::Graphic);
@@ -339,7 +339,7 @@ TEST(ScreenReader, ThePictureSaysWhatItShowsAndWhereTheWalkStands) {
   EXPECT_EQ(work.desk.walk.Number, 1);
   EXPECT_TRUE(picture->text(QAccessible::Description).startsWith("Nitrogen N of alanine, atom 1"))
       << qPrintable(picture->text(QAccessible::Description));
-  EXPECT_EQ(picture->actionInterface()->actionNames().count(), 6);  // five steps, and the focus
+  EXPECT_EQ(picture->actionInterface()->actionNames().count(), 6);  // five steps and the focus
   EXPECT_TRUE(
       picture->actionInterface()->keyBindingsForAction("Go to the next atom").contains("N"));
 }
@@ -365,7 +365,7 @@ TEST_F(AListeningReader, EachStepOfTheWalkIsAnnounced) {
   EXPECT_EQ(Told::Count(QAccessible::NameChanged, NameOf(picture)), 0);
 }
 
-TEST_F(AListeningReader, WhatThePictureShowsIsAnnouncedOnceItIsAnother) {
+TEST_F(AListeningReader, WhatThePictureShowsIsAnnouncedWhenItChanges) {
   WindowAtWork work;
   Told told;
   SelectRow(work.desk, work.main.AA_Lst, 2);
@@ -376,8 +376,8 @@ TEST_F(AListeningReader, WhatThePictureShowsIsAnnouncedOnceItIsAnother) {
   EXPECT_EQ(Told::Count(QAccessible::Alert, shown), 1);
 }
 
-// The names come one after the other by keys, so all of them are heard.
-TEST_F(AListeningReader, ANameThatComesUpOnTheMapIsAnnounced) {
+// Keys bring the names one after the other, so all of them are heard.
+TEST_F(AListeningReader, ANameThatAppearsOnTheMapIsAnnounced) {
   ProgramAtWork program;
   program.GoToTheDesk();
   SelectRow(program.desk, program.desk.main.Pro_Lst, 1);

@@ -1,4 +1,4 @@
-// The filter for eyes that lack a cone is a matter of the screen, and of nothing that leaves the
+// The filter for eyes that lack a cone changes only the screen, and nothing that leaves the
 // program.
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ struct SightAtWork : WindowAtWork {
   QImage Screen(const Control& control) {
     return WidgetOf(control).grab().toImage().convertToFormat(QImage::Format_RGB32);
   }
-  // The ball that is painted last, with nothing over it.
+  // The ball that is painted last, so nothing lies over it.
   char LastLetter() {
     const std::string_view name = desk.molecule.AtomName[Last()];
     return name[2];
@@ -93,7 +93,7 @@ TEST(TheSight, ShowsABallInTheColourOfItsElementForEachEye) {
   }
 }
 
-TEST(TheSight, IsTurnedByOneKeyWhereverTheKeyboardIs) {
+TEST(TheSight, ChangesByOneKeyWhereverTheKeyboardIs) {
   SightAtWork work;
   for (const Control* stop :
        {static_cast<Control*>(&work.main.AA_Lst), static_cast<Control*>(&work.main.Bt3_Reset)}) {
@@ -106,7 +106,7 @@ TEST(TheSight, IsTurnedByOneKeyWhereverTheKeyboardIs) {
   }
 }
 
-TEST(TheSight, IsTurnedByTheSameKeyInEveryWindow) {
+TEST(TheSight, ChangesByTheSameKeyInEveryWindow) {
   SightAtWork work;
   Paints paints;
   work.WidgetOf(work.main.Picture1).installEventFilter(&paints);
@@ -138,7 +138,7 @@ TEST(TheSight, IsTurnedByTheSameKeyInEveryWindow) {
   QToolTip::hideText();
 }
 
-TEST(TheSight, TellsWhichEyeItIsForInATipAndNotInTheTitle) {
+TEST(TheSight, SaysWhichEyeItIsForInATipAndNotInTheTitle) {
   SightAtWork work;
   const QString title = work.window.windowTitle();
 
@@ -166,7 +166,7 @@ TEST(TheSight, SwatchesShowWhatThePictureWillShow) {
   EXPECT_EQ(red.BackColor, Rgb(255, 0, 0));
 }
 
-TEST(TheSight, NoFileHearsOfIt) {
+TEST(TheSight, ChangesNoFile) {
   SightAtWork work;
   Click(work.desk, work.main.Bt3_Sterio);
   ASSERT_EQ(work.desk.stereo.StereoOn, 1);
@@ -191,7 +191,7 @@ TEST(TheSight, NoFileHearsOfIt) {
   }
 }
 
-TEST(TheSight, NoPaperHearsOfIt) {
+TEST(TheSight, ChangesNoPaper) {
   SightAtWork work;
   qputenv("CUPS_SERVER", "127.0.0.1:1");  // nobody listens there: no printer
   Click(work.desk, work.main.Bt3_Sterio);
@@ -206,7 +206,7 @@ TEST(TheSight, NoPaperHearsOfIt) {
   }
 }
 
-TEST(TheSight, NoStrokeAndNoStoredColourHearsOfIt) {
+TEST(TheSight, ChangesNoStrokeAndNoStoredColour) {
   SightAtWork work;
   const auto picture = work.main.Picture1.Image();
 

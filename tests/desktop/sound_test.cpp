@@ -1,4 +1,4 @@
-// The music chooser over real files, and what cannot be played.
+// The music chooser with real files, and files that cannot be played.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -82,7 +82,7 @@ TEST_F(Chooser, ListsTheFoldersOnTheWayDownAndThoseInside) {
   ASSERT_TRUE(QDir(folder.path()).mkdir("Music"));
   Open();
 
-  const QStringList way = folder.path().split('/');  // "" stands before the first separator
+  const QStringList way = folder.path().split('/');  // there is "" before the first separator
   EXPECT_EQ(folders->Rows().first(), "/");
   EXPECT_EQ(folders->Rows()[folders->ChosenRow()], way.last());
   EXPECT_EQ(folders->ChosenRow(), way.size() - 1);
@@ -95,7 +95,7 @@ TEST_F(Chooser, KeysGoFromDriveToDrive) {
   const QStringList drives = DriveWidget::Drives();
   drive.setFocus();
 
-  QTest::keyClick(&drive, Qt::Key_Down);  // from a folder that is no drive to the first
+  QTest::keyClick(&drive, Qt::Key_Down);  // from a folder that is not a drive to the first drive
   EXPECT_EQ(main.Drive1.Path.Get(), drives.first().toStdString());
   for (qsizetype i = 0; i < drives.size(); ++i) QTest::keyClick(&drive, Qt::Key_Down);
   EXPECT_EQ(main.Drive1.Path.Get(), drives.last().toStdString());
@@ -158,7 +158,7 @@ TEST_F(Chooser, ADoubleClickOpensASoundAndClosesTheChooser) {
   EXPECT_FALSE(work.platform.SoundIsOpen());
 }
 
-TEST_F(Chooser, AFileThatIsEmptyOrNoSoundEndsInTheBox) {
+TEST_F(Chooser, AFileThatIsEmptyOrNotASoundEndsInTheBox) {
   Write(folder.filePath("empty.wav"), "");
   Write(folder.filePath("text.wav"), "This is no sound at all, whatever its name says.\n");
   Open();
@@ -182,7 +182,7 @@ TEST_F(Chooser, AFileThatHasGoneEndsInTheBox) {
   EXPECT_THAT(work.platform.Effects, ElementsAre("warning ÎØÃ ÛíÑ ãÚÑæÝ (1)."));
 }
 
-TEST(Sound, TheBoxOfAStockTuneThatIsNotThereReadsAsItAlwaysHas) {
+TEST(Sound, TheBoxOfAMissingStockTuneReadsAsAlways) {
   struct : QtPlatform {
     void EndProgram() override {}
   } platform;

@@ -1,4 +1,4 @@
-// From the splash to the desk, and what becomes of windows that are closed by their frames.
+// From the splash to the desk, and what happens when the user closes a window by its frame.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 

@@ -45,8 +45,8 @@ TEST(Theme, TheTypeIsTheEmbeddedOne) {
   EXPECT_EQ(found.weight(), 600);
 }
 
-// Four pixels, four in from the left, in the colour that the box stands for.
-TEST(Theme, EachBoxOfTheRgbFrameBearsItsColour) {
+// Four pixels, four in from the left, in the colour for which the box is.
+TEST(Theme, EachBoxOfTheRgbFrameShowsItsColour) {
   WindowAtWork work;
   Click(work.desk, work.main.COL_RGB, Reach::Forced);
   ASSERT_TRUE(work.main.V_RGB_H.Visible);

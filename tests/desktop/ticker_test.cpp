@@ -1,4 +1,4 @@
-// The clock behind the timers of the desk. Only what must hold at any pace is asked.
+// The clock behind the timers of the desk. The tests check only what must hold at any speed.
 #include "desktop/ticker.h"
 
 #include <gtest/gtest.h>
@@ -69,9 +69,9 @@ TEST(Ticker, NoTickBeginsInsideATick) {
   EXPECT_EQ(deepest, 1);
 }
 
-// Ten beats go by in the first tick. Behind it comes one of them, and the rest are dropped; those
-// of the time that has passed since then may have come too, however long that was.
-TEST(Ticker, BeatsThatWereMissedAreNotMadeUpFor) {
+// Ten beats pass during the first tick. One of them comes after it, and the rest are dropped. Beats
+// of the time since then may have come as well, however long that was.
+TEST(Ticker, MissedBeatsAreNotMadeUpFor) {
   constexpr int kInterval = 50;
   int ticks = 0;
   QElapsedTimer since;
@@ -87,7 +87,7 @@ TEST(Ticker, BeatsThatWereMissedAreNotMadeUpFor) {
   EXPECT_LE(ticks, 1 + 1 + fresh);
 }
 
-// The system has no file left to give, as in a program that has opened too many.
+// The system gives no more files, as to a program that has opened too many.
 TEST(Ticker, TicksByTheToolkitsClockWhereTheSystemGivesNone) {
   rlimit before{};
   getrlimit(RLIMIT_NOFILE, &before);

@@ -1,4 +1,4 @@
-// The main window on a screen, its boxes answered by a list instead of a user.
+// The main window on a screen. A list answers its boxes in place of a user.
 #pragma once
 
 #include <deque>
@@ -21,7 +21,7 @@ class QuietPlatform : public QtPlatform {
  public:
   std::vector<std::string> Effects;
   std::deque<std::string> Answers;  // replies to input boxes; with none left: cancelled
-  std::string Folder;               // stands for the program's, where it is not empty
+  std::string Folder;               // used instead of the program's folder unless it is empty
 
   void Beep() override { Effects.emplace_back("beep"); }
   void MessageBox(std::string_view text) override { Keep("message ", text); }
@@ -70,12 +70,13 @@ struct WindowAtWork {
   void ClickOn(const Control& control) {
     QTest::mouseClick(&WidgetOf(control), Qt::LeftButton, {}, Middle(control));
   }
-  // The pointer as the screen moves it: the toolkit finds out what it comes onto and leaves.
+  // Moves the pointer as the screen does: the toolkit finds out what it enters and leaves.
   void PointAt(QWidget& widget, QPoint at) {
-    QCursor::setPos(widget.mapToGlobal(at));  // for who asks the screen where it is
+    QCursor::setPos(widget.mapToGlobal(at));  // for code that asks the screen where it is
     QTest::mouseMove(window.windowHandle(), widget.mapTo(&window, at));
   }
-  // Turns the wheel over a widget; angle: eighths of a degree, 120 for a notch, from the user away.
+  // Turns the wheel over a widget. The angle is in eighths of a degree, 120 for a notch, positive
+  // away from the user.
   static void TurnWheel(QWidget& widget, QPoint at, int angle) {
     QWheelEvent turn(at, widget.mapToGlobal(at), {}, QPoint(0, angle), Qt::NoButton, {},
                      Qt::NoScrollPhase, false);
@@ -84,7 +85,7 @@ struct WindowAtWork {
   QImage Shot() { return window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
 };
 
-// How often a widget that it filters the events of was asked to paint itself.
+// Counts how often the widget whose events it filters was asked to paint itself.
 struct Paints : QObject {
   int Count = 0;
   bool eventFilter(QObject*, QEvent* event) override {
@@ -93,7 +94,7 @@ struct Paints : QObject {
   }
 };
 
-// How often an event of that kind came to a control, and the last one.
+// Counts the events of that kind that came to a control, and keeps the last one.
 struct Heard {
   int Count = 0;
   Event Last;

@@ -10,7 +10,7 @@ namespace {
 
 QColor At(const QImage& shot, int x, int y) { return QColor(shot.pixel(x, y)); }
 
-TEST(TheWindow, HasItsFixedSizeAndStandsInTheMiddleOfTheScreen) {
+TEST(TheWindow, HasItsFixedSizeInTheMiddleOfTheScreen) {
   WindowAtWork work;
   const QPoint off =
       work.window.frameGeometry().center() - work.window.screen()->availableGeometry().center();
@@ -20,7 +20,8 @@ TEST(TheWindow, HasItsFixedSizeAndStandsInTheMiddleOfTheScreen) {
   EXPECT_LE(std::abs(off.y()), 1);
 }
 
-// How many are told when a window comes to another screen. The toolkit lets only the window ask.
+// Counts those who are told when a window comes to another screen. Only the window itself may ask
+// the toolkit.
 int HearersOfTheScreen(const QWindow& window) {
   struct Ask : QWindow {
     using QWindow::receivers;
@@ -29,7 +30,7 @@ int HearersOfTheScreen(const QWindow& window) {
   return (window.*ask)(SIGNAL(screenChanged(QScreen*)));
 }
 
-TEST(TheWindow, HearsOnceOfAnotherScreenHoweverOftenItWasShown) {
+TEST(TheWindow, HearsOnceOfAnotherScreenNoMatterHowOftenItWasShown) {
   WindowAtWork work;
   const int before = HearersOfTheScreen(*work.window.windowHandle());
   ASSERT_GE(before, 1);
@@ -42,7 +43,7 @@ TEST(TheWindow, HearsOnceOfAnotherScreenHoweverOftenItWasShown) {
   EXPECT_EQ(HearersOfTheScreen(*work.window.windowHandle()), before);
 }
 
-TEST(TheWindow, IsLaidAnewOnAnotherScreen) {
+TEST(TheWindow, IsLaidOutAgainOnAnotherScreen) {
   WindowAtWork work;
   QWidget& ground = work.window.Desk();
   ground.resize(10, 10);
@@ -61,7 +62,7 @@ TEST(TheWindow, ItsTitleIsTheCaption) {
   EXPECT_EQ(work.window.windowTitle(), "Orvane (OVN) v2.0: GLYCINE (GLY G)");
 }
 
-TEST(TheWindow, ClosingItEndsTheProgramUnasked) {
+TEST(TheWindow, ClosingItEndsTheProgramWithoutAsking) {
   WindowAtWork work;
 
   work.window.close();
@@ -110,7 +111,7 @@ TEST(TheWindow, BackFromTheMaximisedStateItHasItsFixedSizeAgain) {
   EXPECT_DOUBLE_EQ(work.window.scale.Factor, 1);
 }
 
-TEST(TheWindow, OffOnAndDisabledAreToldApartInGreyToo) {
+TEST(TheWindow, OffOnAndDisabledDifferInGreyToo) {
   WindowAtWork work;
   work.main.Bt3_Label.Caption = "Label On";
   const QImage shot = work.Shot();
@@ -123,7 +124,7 @@ TEST(TheWindow, OffOnAndDisabledAreToldApartInGreyToo) {
             disabled = corner(work.main.Bt3_Isomers);
   EXPECT_GE(off - on, 15);
   EXPECT_GE(off - disabled, 15);
-  // On and disabled differ by their edge, which the disabled one has not.
+  // On and disabled differ by their edge: the disabled one has none.
   const auto edge = [&](const Control& c) {
     const QRect face = work.ViewOf(c).Stand().Face;
     return qGray(shot.pixel(face.left(), face.center().y()));
@@ -131,7 +132,7 @@ TEST(TheWindow, OffOnAndDisabledAreToldApartInGreyToo) {
   EXPECT_GE(edge(work.main.Bt3_Isomers) - edge(work.main.Bt3_Label), 60);
 }
 
-TEST(TheWindow, WhereThePictureStoodIsDarkInASplitView) {
+TEST(TheWindow, ThePlaceOfThePictureIsDarkInASplitView) {
   WindowAtWork work;
   work.main.P_Pic1.Visible = false;
 

@@ -104,7 +104,7 @@ TEST_F(AtomPainterTest, AnOxygenThatIsTheSecondAtomIsNotDoubled) {
             "Line 5 0 0 0 #f00000 w1\n");
 }
 
-TEST_F(AtomPainterTest, AnOxygenOnSomethingElseThanCarbonDoublesItsOwnHalfOnly) {
+TEST_F(AtomPainterTest, AnOxygenOnSomethingOtherThanCarbonDoublesItsOwnHalfOnly) {
   Atom("  N  ", 0, 0);
   Atom("  O  ", 10, 0);
   Bond(2, 1);
@@ -115,7 +115,7 @@ TEST_F(AtomPainterTest, AnOxygenOnSomethingElseThanCarbonDoublesItsOwnHalfOnly) 
             "Line 5 0 0 0 #3c3cf0 w1\n");
 }
 
-TEST_F(AtomPainterTest, AnOxygenWithANumberIsNoCarbonyl) {
+TEST_F(AtomPainterTest, AnOxygenWithANumberIsNotACarbonyl) {
   Atom("  C  ", 0, 0);
   for (const char* name : {"  O1 ", "  OG ", "  O5*"}) {
     desk.molecule.AtomCount = 1;
@@ -129,7 +129,7 @@ TEST_F(AtomPainterTest, AnOxygenWithANumberIsNoCarbonyl) {
   }
 }
 
-TEST_F(AtomPainterTest, TwoHydrogensDrawNoLineAndYetTheirHydrogenBond) {
+TEST_F(AtomPainterTest, TwoHydrogensDrawNoLineButStillTheirHydrogenBond) {
   Atom("  H1 ", 0, 0);
   Atom("  H2 ", 10, 0);
   Bond(2, 1);
@@ -148,7 +148,7 @@ struct PairCase {
   bool IsDrawn;
 };
 
-TEST_F(AtomPainterTest, FourPairsWithH4AreNoBondsAndTheirReversesAre) {
+TEST_F(AtomPainterTest, FourPairsWithH4AreNotBondsAndTheirReversesAre) {
   const PairCase cases[] = {
       {"  H4 ", "  CB ", false}, {"  H4 ", "  C! ", false}, {"  C  ", "  H4 ", false},
       {"  H4 ", "  C  ", false}, {"  CB ", "  H4 ", true},  {"  C! ", "  H4 ", true},
@@ -209,7 +209,7 @@ TEST_F(AtomPainterTest, AnUnknownElementRepeatsTheBallBefore) {
 
 TEST_F(AtomPainterTest, ANameThatBeginsOneColumnEarlyIsReadFromItsSecondLetter) {
   Atom("  N  ", 0, 0);
-  Atom(" HG11", 10, 0);  // G stands where the element is read
+  Atom(" HG11", 10, 0);  // G is where the element is read
   Bond(1, 2);
   desk.drawing.BallsOn = 1;
 
@@ -285,7 +285,7 @@ TEST_F(AtomPainterTest, BallOutlinesStayThinWhateverTheWidthOfBonds) {
             "Circle 10 0 2.85 #00f050 on #000000 w1\n");
 }
 
-TEST_F(AtomPainterTest, ALabelStandsOnItsAtomBelowTheBall) {
+TEST_F(AtomPainterTest, ALabelIsPrintedOnItsAtomUnderTheBall) {
   Atom("  CA ", 10.5, 20);
   desk.drawing.LabelsOn = 1;
   desk.drawing.BallsOn = 1;

@@ -16,7 +16,7 @@
 namespace orvane {
 namespace {
 
-// Luminance relative to white, of a colour of an ordinary screen.
+// The luminance of a colour on an ordinary screen, relative to white.
 double Luminance(double red, double green, double blue) {
   const auto linear = [](double channel) {
     const double share = channel / 255;
@@ -27,7 +27,7 @@ double Luminance(double red, double green, double blue) {
 
 double Luminance(Colour colour) { return Luminance(Red(colour), Green(colour), Blue(colour)); }
 
-// (brighter + 0.05) / (darker + 0.05): 1 is nothing to see, 21 is black on white.
+// (brighter + 0.05) / (darker + 0.05): 1 cannot be seen, 21 is black on white.
 double Contrast(double brighter, double darker) { return (brighter + 0.05) / (darker + 0.05); }
 
 double LuminanceOfWord(std::uint32_t word) {
@@ -93,9 +93,9 @@ TEST(Backgrounds, ThereIsNoSixth) {
   EXPECT_THROW(BackgroundPicture(colours, -1), Failure);
 }
 
-// 3 is what the outline of anything that has to be recognised should have. The blue of nitrogen has
-// 3.1 on black itself, so that a ground that is not black cannot give it 3: it keeps 2.5, four
-// fifths of what black gives it.
+// The outline of anything that has to be recognised should have a contrast of 3. The blue of
+// nitrogen has 3.1 on plain black, so a background that is not black cannot give it 3. It keeps
+// 2.5, four fifths of what black gives it.
 TEST(Backgrounds, EveryElementStandsOutFromEveryPixel) {
   Colours colours;
   for (int n = 0; n < kBackgroundCount; ++n) {
@@ -118,7 +118,7 @@ TEST(Backgrounds, TheColoursOfTheStartStandOutFromEveryPixel) {
   }
 }
 
-// The most that a pixel differs from the one beside it or below it.
+// The largest difference between a pixel and the one beside it or below it.
 double SharpestEdge(const Bitmap& bitmap) {
   double most = 1;
   for (int i = 0; i < bitmap.Width * (bitmap.Height - 1); ++i) {
@@ -132,7 +132,7 @@ double SharpestEdge(const Bitmap& bitmap) {
   return most;
 }
 
-// Half of the contrast that the faintest element has: nothing in a picture reads as a stroke.
+// Half of the contrast of the faintest element, so that nothing in a picture looks like a stroke.
 TEST(Backgrounds, HaveNoEdgeThatCouldPassForAStroke) {
   Colours colours;
   for (int n = 0; n < kBackgroundCount; ++n) {

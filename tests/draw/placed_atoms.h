@@ -7,7 +7,7 @@
 namespace orvane {
 
 struct PlacedAtoms : DeskAtWork {
-  // The name field whole, "  CA ".
+  // The whole name field, "  CA ".
   int Atom(std::string_view name, double x, double y) {
     Molecule& molecule = desk.molecule;
     molecule.AtomCount += 1;

@@ -20,7 +20,7 @@ struct PlanePainterTest : testing::Test, PlacedAtoms {
     return Strokes();
   }
 
-  // Two atoms of these names, as the first atom of bond 1 and the second of bond 1 + `ahead`.
+  // Two atoms with these names: the first atom of bond 1 and the second of bond 1 + `ahead`.
   std::string PaintedPair(std::string_view from, std::string_view to, int ahead) {
     Molecule& molecule = desk.molecule;
     molecule.AtomCount = 0;
@@ -188,7 +188,7 @@ TEST_F(PlanePainterTest, MarksOutliveTheStructureAndItsNamesGuardThem) {
   EXPECT_EQ(drawing.PlaneCA2, 3);
   EXPECT_EQ(drawing.PlaneH, 4);
 
-  // The corners' own names are not looked at again: O! and H! at those numbers bring it back.
+  // The names of the other corners are not checked again: O! and H! at those numbers bring it back.
   desk.molecule.AtomName[2] = "  O! ";
   EXPECT_EQ(Painted(), "");
   desk.molecule.AtomName[4] = "  H! ";
@@ -209,7 +209,7 @@ TEST_F(PlanePainterTest, PlanesAloneWipeFirstAndOverAPictureTheyDoNot) {
   EXPECT_EQ(desk.main.Picture1.Image()->Strokes.size(), 6u);
 
   drawing.PlanesOnly = 1;
-  drawing.OverdrawPass = 1;  // not asked here
+  drawing.OverdrawPass = 1;  // not checked here
   desk.colours.BackgroundIndex = 2;
   PaintPlanes(desk);
   EXPECT_EQ(desk.main.Picture1.Image()->Strokes.size(), 5u);
@@ -222,8 +222,8 @@ TEST_F(PlanePainterTest, BallsAreFilledAgainAfterwards) {
   EXPECT_EQ(desk.main.Picture1.FillStyle, 0);
 }
 
-// 2 x 16384 = 32768 is no 16-bit number. 2 x 14994 = 29988 reaches i = 29987, and i + 14 is 30001;
-// without chain lines only i + 12 is read, and 2 x 14994 + 12 = 30000 is still a slot.
+// 2 x 16384 = 32768 is not a 16-bit number. 2 x 14994 = 29988 reaches i = 29987, and i + 14 is
+// 30001. Without chain lines only i + 12 is read, and 2 x 14994 + 12 = 30000 is still a slot.
 TEST_F(PlanePainterTest, LargeStructuresEndInAFailure) {
   desk.molecule.AtomCount = 14993;
   drawing.ChainPlanes = 1;
@@ -239,7 +239,7 @@ TEST_F(PlanePainterTest, LargeStructuresEndInAFailure) {
   EXPECT_EQ(drawing.PlaneIndex, 29989);
 }
 
-TEST_F(PlanePainterTest, TheDoubledNumberOfAtomsOverflowsBehindTheWipe) {
+TEST_F(PlanePainterTest, TheDoubledNumberOfAtomsOverflowsAfterTheWipe) {
   desk.molecule.AtomCount = 16384;
   desk.main.Picture1.Print("kept");
   EXPECT_THROW(PaintPlanes(desk), Failure);

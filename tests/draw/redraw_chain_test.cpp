@@ -11,7 +11,7 @@ namespace {
 constexpr Colour kTraceColour = Rgb(1, 2, 3);
 constexpr Colour kPlaneColour = Rgb(4, 5, 6);
 
-// What the passes do, a word each; the same word again is left out.
+// What the passes do, one word each; a repeated word is left out.
 struct Passes : SurfaceTrace {
   std::vector<std::string> Words;
   void Add(const char* word) {
@@ -38,7 +38,7 @@ struct RedrawChainTest : testing::Test, PlacedAtoms {
     return passes.Words;
   }
 
-  // 4 wide and 2 high: centre 2, 1, and 0.25 of the half surface, 45 pixels, to an Angstrom.
+  // 4 wide and 2 high: the centre is 2, 1, and an Angstrom is 0.25 of half the surface, 45 pixels.
   void LoadTwo() { Load(desk, Record("N", 0, 0, 0) + Record("O", 4, 2, 0)); }
 };
 
@@ -86,7 +86,7 @@ TEST_F(RedrawChainTest, ARepaintDoesNotProject) {
   EXPECT_EQ(desk.main.Picture1.Image()->Strokes.at(0).X1, 33);
 }
 
-TEST_F(RedrawChainTest, AFamilyThatIsNoneRunsNoPainter) {
+TEST_F(RedrawChainTest, AnUnknownFamilyRunsNoPainter) {
   LoadTwo();
   desk.main.Picture1.Cls();
   desk.main.Picture1.Print("kept");
@@ -126,10 +126,10 @@ TEST_F(RedrawChainTest, WithoutPeptideOnNoPlaneIsPainted) {
 TEST_F(RedrawChainTest, FastWireJoinsPlacesOfAtomsWithTheNumbersOfBonds) {
   Load(desk, Record("N", 0, 0, 0) + Record("O", 4, 0, 0));
   desk.molecule.AtomCount = 2;
-  Bond(1, 2);  // point 2 is not filled yet, and stands at 0, 0
+  Bond(1, 2);  // point 2 is not filled yet, and is at 0, 0
   Bond(2, 1);
   desk.drawing.FastWire = 1;
-  desk.drawing.DrawFamily = 2;  // so that no painter wipes it
+  desk.drawing.DrawFamily = 2;  // so that no painter wipes the wire
   desk.main.Picture1.Print("old");
   desk.main.Picture1.ForeColor = Rgb(1, 2, 3);
   desk.main.Picture1.DrawWidth = 4;

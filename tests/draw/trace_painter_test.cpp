@@ -172,7 +172,7 @@ TEST_F(TracePainterTest, ItWipesInAnOverdrawPassToo) {
   EXPECT_EQ(Painted(), "");
 }
 
-TEST_F(TracePainterTest, ThePictureInForceLiesBehind) {
+TEST_F(TracePainterTest, TheBackgroundPictureLiesBehind) {
   desk.colours.BackgroundIndex = 3;
   PaintTraceFamily(desk);
 

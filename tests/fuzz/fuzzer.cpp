@@ -1,4 +1,4 @@
-// The body named by ORVANE_FUZZ_BODY under libFuzzer.
+// Runs the body named by ORVANE_FUZZ_BODY in libFuzzer.
 #include <cstdio>
 #include <cstdlib>
 

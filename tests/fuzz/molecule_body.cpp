@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kMostAtoms = 596;
 
-// The records at the head of a text, each whole but perhaps the last.
+// The records at the beginning of a text, each whole except perhaps the last.
 int RecordsIn(std::string_view text) {
   int count = 0;
   while (text.starts_with("AT")) {
@@ -45,8 +45,8 @@ std::string ReadAsMolecule(Bytes bytes) {
   }
   raster.Paint(*desk.main.Picture1.Image(), 1);
   LastSeen last;
-  last.InRange = false;         // a text may say any number
-  last.LoadsWereWhole = false;  // and may be no text of records
+  last.InRange = false;         // a text may contain any number
+  last.LoadsWereWhole = false;  // and may not be a text of records
   return WhatIsWrong(desk, {true, true}, last, true);
 }
 

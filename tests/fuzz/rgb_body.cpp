@@ -13,7 +13,7 @@ std::string_view NextLine(std::string_view& text) {
   return line;
 }
 
-// A number as a child writes it; of all others this says nothing.
+// Whether the text is a number of up to four digits. About any other form this says nothing.
 bool IsPlainNumber(std::string_view text) {
   return !text.empty() && text.size() <= 4 &&
          std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });

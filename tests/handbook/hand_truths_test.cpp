@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::string_view kPage = "docs/handbook/truths.md";
 
-// The sense in which three atoms are met on the screen when one goes round the fourth: positive is
-// clockwise, since y grows downward.
+// The direction in which you meet three atoms on the screen when you go round the fourth. Positive
+// is clockwise, since y grows downward.
 double Round(const Molecule& store, int centre, int a, int b, int c) {
   const auto way = [&](int from, int to) {
     const double x1 = store.ScrX[from] - store.ScrX[centre];
@@ -59,10 +59,10 @@ TEST(Truths, TheRightFormIsTheMirroredOutline) {
   const std::vector<Stroke> right = alanine.Lines(alanine.Main().R_Img);
   ASSERT_EQ(left.size(), right.size());
   ASSERT_GT(left.size(), 20u);
-  const int doubled = 2;  // pixels by which a second line is set off, the same in both
+  const int doubled = 2;  // pixels between a line and its second line, the same in both
   for (std::size_t i = 0; i < left.size(); ++i) {
-    // The pivot stands at the middle of 360 pixels. Half lines that are second lines of C=O keep
-    // their offset, so they are mirrored but for twice that.
+    // The pivot is at the middle of 360 pixels. The second lines of C=O keep their offset, so they
+    // are mirrored except for twice that offset.
     EXPECT_NEAR(right[i].Y1, left[i].Y1, 1e-3);
     EXPECT_NEAR(right[i].Y2, left[i].Y2, 1e-3);
     const double off = 360 - left[i].X1 - right[i].X1;
@@ -70,8 +70,8 @@ TEST(Truths, TheRightFormIsTheMirroredOutline) {
   }
 }
 
-// What the eye gets: whether atoms in front stand further to the left in the right picture, as they
-// do for a right eye.
+// What the eye gets: whether atoms in front are further to the left in the right picture, as they
+// are for a right eye.
 bool IsForParallelEyes(Student& student) {
   const std::vector<Stroke> left = student.Lines(student.Main().L_Img);
   const std::vector<Stroke> right = student.Lines(student.Main().R_Img);
@@ -133,13 +133,13 @@ TEST(Truths, TheTopmostAtomMakesAPairForParallelEyesTheLowestOneForCrossed) {
   }
 }
 
-// Red is the turned view. Where that is the right eye's, atoms in front are further left in red,
-// and the eye that is to see red is the right one.
+// Red is the turned view. If that is the right eye's view, atoms in front are further left in red,
+// and it is the right eye that should see red.
 TEST(Truths, RedBelongsToTheRightEyeInRowsForParallelEyes) {
   for (const auto& [row, parallel] : {std::pair("VAL", true), std::pair("ALA", false)}) {
     Student student(kAminoAcids, row);
     Click(student.Desk(), student.Main().R_G_Stereo);
-    const int front = student.Atom("1 H4");  // in front of CA, about which little moves
+    const int front = student.Atom("1 H4");  // in front of CA, near which little moves
     const auto at_h4 = [&](Colour ink) {
       for (const Stroke& line : student.Lines(student.Main().Picture1)) {
         if (line.Ink == ink && line.Y1 == static_cast<float>(student.Store().ScrY[front])) {
@@ -154,9 +154,9 @@ TEST(Truths, RedBelongsToTheRightEyeInRowsForParallelEyes) {
   }
 }
 
-// The hand of a carbon in the rule of Cahn, Ingold and Prelog: its three heavier neighbours by
-// rank, the lightest looked away from. In coordinates of right hand the triple product is positive
-// for S.
+// The hand of a carbon by the rule of Cahn, Ingold and Prelog: its three heavier neighbours in the
+// order of their rank, seen with the lightest pointing away. In right-handed coordinates the triple
+// product is positive for S.
 char HandOf(const Student& student, const char* centre, const char* first, const char* second,
             const char* third) {
   return student.Hand(student.Atom(centre), student.Atom(first), student.Atom(second),
@@ -168,7 +168,7 @@ char HandOf(const Student& student, const char* centre, const char* first, const
 TEST(Truths, IsoleucineIsAlloAndThreonineIsNatural) {
   const Student isoleucine(kAminoAcids, "ILE");
   EXPECT_EQ(HandOf(isoleucine, "1 CA", "1 N", "1 C", "1 CB"), 'S');
-  // At CB: CA bears N, then CG1 which bears carbon, then the methyl group.
+  // At CB: CA carries N and comes first, then CG1, which carries carbon, then the methyl group.
   EXPECT_EQ(HandOf(isoleucine, "1 CB", "1 CA", "1 CG1", "1 CG2"), 'R');
   const Student threonine(kAminoAcids, "THR");
   EXPECT_EQ(HandOf(threonine, "1 CA", "1 N", "1 C", "1 CB"), 'S');

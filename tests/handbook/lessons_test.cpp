@@ -1,5 +1,5 @@
-// The lessons for class: their lab sheets are played, and what they print is worked out again from
-// the places of the atoms.
+// Plays the lab sheets of the lessons, and works out again what they print from the positions of
+// the atoms.
 #include <cmath>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST_P(Lesson, PrintsTheLinesBesideIt) {
   EXPECT_EQ(played.Lines, house::ReadProjectFile(PageOf(GetParam(), "lesson.expected")));
 }
 
-// The number on the panel: what stands behind the colon, without the leading zeros of "01.33".
+// The number on the panel: the text after the colon, without the leading zero of "01.33".
 std::string ShownIn(const std::string& panel) {
   const std::size_t colon = panel.find(": ");
   if (colon == std::string::npos) return "";
@@ -53,7 +53,7 @@ TEST_P(Lesson, HasEachPrintedNumberAmongTheAnswersOfItsTeachersPage) {
   EXPECT_GE(numbers, 6);
 }
 
-// The student's page has the questions and none of the answers.
+// The student's page has the questions but none of the answers.
 TEST_P(Lesson, KeepsTheAnswersFromTheStudent) {
   const std::string page = PageAsLine(PageOf(GetParam(), "student.md"));
   std::istringstream printed(house::ReadProjectFile(PageOf(GetParam(), "lesson.expected")));
@@ -72,8 +72,8 @@ Point AsRead(const Molecule& store, int atom) {
   return {store.AtomX[atom], store.AtomY[atom], store.AtomZ[atom]};
 }
 
-// Plays the lab sheet and looks at each measure: the atoms that were picked, by their places as
-// read, and what the panel makes of them.
+// Plays the lab sheet and compares each result on the panel with the positions, as read, of the
+// atoms that were picked.
 TEST_P(Lesson, ShowsTheGeometryOfItsAtoms) {
   Session session;
   const Orvane_Desk& desk = session.Desk();
@@ -155,8 +155,8 @@ TEST(PeptideLesson, AnglesAddUpTo360InAPlaneAndToLessRoundTheAlphaCarbon) {
 }
 
 TEST(PeptideLesson, TheOutlineClosesToALine) {
-  // The student turns by eight moves of four degrees about X, 33 being wanted. The picture is
-  // looked at along z, so the group's normal then lies in the picture.
+  // The student turns by eight moves of four degrees about X, where 33 would be exact. The eye
+  // looks along z, so the group's normal then lies in the picture.
   Session session;
   session.Do("enter\nselect Pro_Lst 0\npress Picture1 2 20 20");
   for (int move = 0; move < 8; ++move) session.Do("move Picture1 2 20 120");

@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view kPage = "docs/handbook/truths.md";
 
-// What is left of a torsion when the quadrants are gone: the size between 90 and 180, or 0.
+// What is left of a torsion without its quadrant: a size between 90 and 180, or 0.
 double Folded(double torsion) {
   const double size = std::abs(torsion);
   return size < 90 ? 180 - size : size;
@@ -60,7 +60,7 @@ TEST(Truths, CisAndTransReadAlike) {
   EXPECT_NEAR(std::abs(dipeptide.Value()), 180, 0.1);
   EXPECT_TRUE(Says(kPage, "is cis, reads " + Quoted(dipeptide.Value(), 2)));
 
-  // Across the plane is farther than along one side.
+  // Across the bond is farther than along one side.
   dipeptide.Measure({"1 CA1", "2 CA2"});
   EXPECT_TRUE(Says(kPage, "CA1 to CA2 is " + Quoted(dipeptide.Value(), 2)));
   const double across = dipeptide.Value();
@@ -70,8 +70,8 @@ TEST(Truths, CisAndTransReadAlike) {
 }
 
 TEST(Truths, OtherSignsFollowTheMiddleBondAndNotTheHand) {
-  // A torsion and its supplement differ by 180; which of the two signs comes out follows from
-  // whether the middle bond runs away from the eye, along z, or towards it.
+  // A torsion and its supplement differ by 180. Which of the two signs is shown depends on whether
+  // the middle bond runs away from the eye, along z, or towards it.
   Student student(kAminoAcids, "LYS");
   int against = 0;
   for (int a = 1; a + 3 <= student.Count(); ++a) {
@@ -104,7 +104,7 @@ TEST(Truths, PhiIsRecognisedByNamesInThisOrder) {
   EXPECT_EQ(helix.Measure({"4 C", "4 CA", "4 N", "3 C"}).substr(0, 6), "Tor > ");
   Student dipeptide(kProteins, "PEP");
   EXPECT_EQ(dipeptide.Measure({"1 C!", "2 N!", "2 CA2", "2 C"}).substr(0, 6), "Tor > ");
-  // Neighbours or not: C of the first residue, the rest of the fourth.
+  // They need not be neighbours: C is of the first residue, the rest of the fourth.
   EXPECT_EQ(helix.Measure({"1 C", "4 N", "4 CA", "4 C"}).substr(0, 6), "PHI > ");
 }
 
@@ -115,7 +115,7 @@ TEST(Truths, ATurnBetweenPressAndButtonSpoilsTheMeasure) {
 
   alanine.PressOn({"1 N", "1 CA"});
   StepBar(alanine.Desk(), alanine.Main().VScroll1, 11);
-  // Instead of N: the last atom, H7, where the turn has put it.
+  // In place of N it measures the last atom, H7, where the turn has put it.
   const Molecule& store = alanine.Store();
   const int last = alanine.Count();
   const Point turned{store.CurX[last], store.CurY[last], store.CurZ[last]};
@@ -153,7 +153,7 @@ TEST(Truths, EveryAtomOfAnAminoAcidIsCalledGly1) {
   }
 }
 
-// Entries of the list of hydrogen bonds, row by row; all rows that are not here have none.
+// Entries of the list of hydrogen bonds, row by row; rows that are not here have none.
 TEST(Truths, HydrogenBondsAreCounted) {
   const std::map<std::string, int> counts{{"SER", 2},   {"PEP", 2},   {"Alfa", 8},
                                           {"Alfb", 2},  {"PBS", 12},  {"APBS", 14},
@@ -188,7 +188,7 @@ TEST(Truths, SevenJoinTheStrandsAndSixRunAcrossARing) {
   EXPECT_EQ(across, 6);
 }
 
-TEST(Truths, TheLengthsOfThoseThatAreNoneAreAsThePageSays) {
+TEST(Truths, TheLengthsOfFalseHydrogenBondsAreAsThePageSays) {
   Student alanine(kAminoAcids, "ALA");
   alanine.Measure({"1 N", "1 O"});
   EXPECT_TRUE(Says(kPage, "N to O of the same residue, " + Quoted(alanine.Value(), 2)));
@@ -203,7 +203,7 @@ TEST(Truths, TheLengthsOfThoseThatAreNoneAreAsThePageSays) {
   }
 }
 
-// Two atoms along x, and a third far off so that they are not the whole structure.
+// Two atoms along x, and a third far away so that they are not the whole structure.
 Molecule& Apart(DeskAtWork& work, const char* first, const char* second, double apart) {
   Load(work.desk, Record(first, 0, 0, 0) + Record(second, apart, 0, 0) + Record("R", 0, 9, 0));
   return work.desk.molecule;
@@ -237,7 +237,7 @@ TEST(Truths, TheSpeckInTheCornerIsPaintedWhenTheListIsAtItsEnd) {
   for (const Stroke& line : alanine.Lines(alanine.Main().Picture1)) {
     if (line.X1 == 0 && line.Y1 == 0 && line.X2 == 0 && line.Y2 == 0) ++specks;
   }
-  // Two halves for each number of a bond that has no entry in the list.
+  // Two halves for each bond whose number has no entry in the list.
   EXPECT_EQ(specks, 2 * (alanine.Store().BondCount - alanine.Store().HBondCount));
 }
 

@@ -30,7 +30,7 @@ std::string Collapsed(std::string_view text) {
   return line;
 }
 
-// As it stands on the screen: without the mark of the letter that opens it.
+// The caption as on the screen: without the mark of the letter that opens it.
 std::string OnScreen(std::string_view caption) {
   std::string text = Collapsed(caption);
   std::erase(text, '&');
@@ -42,7 +42,7 @@ bool IsToldOf(const std::string& page, const std::string& caption) {
          page.find("**" + caption + "**") != std::string::npos;
 }
 
-// A menu that is closed in this version closes what stands in it, too.
+// A menu that is disabled in this version disables its entries too.
 bool IsClosedForGood(const ControlRow& row) {
   for (const ControlRow& other : MainWindowTable()) {
     if (other.Name == row.Parent && !other.Visible && other.Kind == ControlKind::MenuEntry) {
@@ -52,13 +52,13 @@ bool IsClosedForGood(const ControlRow& row) {
   return !row.Visible && row.Kind == ControlKind::MenuEntry;
 }
 
-// The music's panel is open to nobody; a pair's captions stand over the pair; the heading of the
-// window is its name; Load AA stands past its right edge.
+// Nobody can open the music's panel; a pair's captions are above the pair; the heading of the
+// window is its name; Load AA is beyond its right edge.
 const std::set<std::string_view> kLeftOut{"Orvane_Desk", "P_Dir_Holder", "Panel3D5", "Bt_M_Ld",
                                           "Str_Entm",    "L_Form",       "R_Form",   "AA_name",
                                           "RGB_V(0)",    "RGB_V(1)",     "RGB_V(2)", "Do_color"};
 
-TEST(TheDeskPage, TellsOfEveryCaptionOfTheMainWindow) {
+TEST(TheDeskPage, DescribesEveryCaptionOfTheMainWindow) {
   const std::string page = PageAsLine(kDesk);
   int captions = 0;
   for (const ControlRow& row : MainWindowTable()) {
@@ -71,8 +71,8 @@ TEST(TheDeskPage, TellsOfEveryCaptionOfTheMainWindow) {
   EXPECT_GT(captions, 60);
 }
 
-// Each caption that the page gives for a state is one that a click brings.
-TEST(TheDeskPage, TellsOfBothStatesOfEachToggle) {
+// A click brings each caption that the page gives for a state.
+TEST(TheDeskPage, DescribesBothStatesOfEachToggle) {
   const std::string page = PageAsLine(kDesk);
   Session session;
   session.Do("enter\nselect AA_Lst 2");
@@ -103,7 +103,7 @@ TEST(TheMeasuringPage, QuotesTheRestingPointer) {
   for (const std::string& part : {words.substr(0, line), words.substr(line + 1)}) {
     EXPECT_TRUE(Says("docs/handbook/measuring.md", "*" + part + "*")) << part;
   }
-  // True ones: folded, the torsion would stand at 90 or more.
+  // The torsion is the true one: folded, it would be 90 or more.
   EXPECT_NEAR(serine.Torsion(og, serine.Atom("1 CB"), serine.Atom("1 CA"), serine.Atom("1 N")),
               53.7, 0.05);
 }
@@ -181,7 +181,7 @@ TEST(ThePictures, AreEachShownOnAPage) {
   }
 }
 
-TEST(ThePictures, ComeOfAScriptThatPlays) {
+TEST(ThePictures, ComeFromAScriptThatPlays) {
   const Played played = Play(ReadAll(kDocs / "handbook/pictures.txt"));
   EXPECT_EQ(played.Errors, "");
   EXPECT_EQ(played.ExitCode, 0);

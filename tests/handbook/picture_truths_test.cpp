@@ -83,7 +83,7 @@ std::vector<int> RunsOf(const Student& student) {
   int before = -100;
   for (const int ca : student.Named("CA")) {
     const int number = student.Store().ResSeq[ca];
-    if (number == before) continue;  // the copy
+    if (number == before) continue;  // the copy of the last residue
     if (number == before + 1) {
       ++runs.back();
     } else {
@@ -131,7 +131,7 @@ TEST(Truths, HydrogensAreWhereThePageSays) {
       EXPECT_EQ(HasHydrogens(Student(list, row)), list == kAminoAcids || with.contains(key)) << row;
     }
   }
-  // H1 to H3 on N, H4 on CA; more only in glycine and alanine, and one less in proline.
+  // H1 to H3 on N, H4 on CA; only glycine and alanine have more, and proline has one less.
   DeskAtWork lists;
   for (const std::string& key : KeysOf(lists.desk.main.AA_Lst)) {
     const Student student(kAminoAcids, key);
@@ -143,7 +143,7 @@ TEST(Truths, HydrogensAreWhereThePageSays) {
   }
 }
 
-TEST(Truths, WhatIsNotToBeMeasuredReadsAsThePageSays) {
+TEST(Truths, WhatShouldNotBeMeasuredReadsAsThePageSays) {
   Student dipeptide(kProteins, "PEP");
   dipeptide.Measure({"1 CA1", "1 C!"});
   EXPECT_TRUE(Says(kPage, "CA-C of the dipeptide (drawn " + Quoted(dipeptide.Value(), 2)));
@@ -197,7 +197,7 @@ TEST(Truths, ResetAfterTheTurnBarLeavesOneStepOfTenDegrees) {
   Click(alanine.Desk(), alanine.Main().Bt3_Reset);
   EXPECT_EQ(store.CurX[1], store.AtomX[1]);
 
-  // Another structure comes turned likewise, but for an amino acid that is built.
+  // The next structure is turned in the same way, except for an amino acid that is generated.
   for (const auto& [list, comes_turned] :
        {std::pair(kProteins, true), std::pair(kAminoAcids, false)}) {
     StepBar(alanine.Desk(), alanine.Main().VScroll1, 11);
@@ -245,7 +245,7 @@ TEST(Truths, APairClosesResetAndHidesThePicture) {
     Click(alanine.Desk(), *button);
     EXPECT_TRUE(alanine.Main().Bt3_Reset.IsOpenToUser());
   }
-  // After D / L the other button wants two clicks.
+  // After D / L the other button needs two clicks.
   Click(alanine.Desk(), alanine.Main().Bt3_D_L_Str);
   EXPECT_FALSE(alanine.Main().P_Sterio.Visible);
   Click(alanine.Desk(), alanine.Main().Bt3_D_L_Str);

@@ -1,4 +1,4 @@
-// The scripts of the pages, step by step: whatever they do, a student can do it there and then.
+// The scripts of the pages, step by step: a student can do every step at that moment.
 #include <cctype>
 #include <gtest/gtest.h>
 #include <set>
@@ -13,7 +13,7 @@ namespace {
 
 class Steps : public ::testing::TestWithParam<const char*> {};
 
-// An action on a control that is closed does nothing, and a page that asks for it would be wrong.
+// An action on a disabled control does nothing, and a page that asks for it would be wrong.
 TEST_P(Steps, AreOpenToTheStudent) {
   const std::set<std::string> on_controls{"click", "select", "press", "move", "release", "bar"};
   Session session;

@@ -9,7 +9,7 @@
 namespace orvane {
 namespace {
 
-constexpr int kReach = 3;  // a press takes what lies within so many pixels, down and across
+constexpr int kReach = 3;  // a press takes what lies within this many pixels, down and across
 
 bool Takes(const Molecule& molecule, int atom, int x, int y) {
   return std::abs(std::floor(molecule.ScrX[atom]) - x) <= kReach &&

@@ -1,4 +1,4 @@
-// What a student does and reads, and what the pages for students and teachers say of it.
+// What a student does and reads, and what the pages for students and teachers say about it.
 #pragma once
 
 #include <string>
@@ -15,13 +15,13 @@ using MeasureButton = Control MainWindow::*;
 
 // A page of the project as one line: line breaks and runs of blanks become one blank.
 std::string PageAsLine(std::string_view path);
-// Whether the page has that phrase, wherever its lines break.
+// Whether the page has that phrase, no matter where its lines break.
 bool Says(std::string_view path, std::string_view phrase);
 
-// A number between back quotes, as the pages give what is read off the panel: `-123`, `1.46`.
+// A number between back quotes. The pages show numbers from the panel like that: `-123`, `1.46`.
 std::string Quoted(double value, int decimals);
 
-// A student before the structure of one row.
+// A student looking at the structure of one row.
 class Student : public Structure {
  public:
   using Structure::Structure;
@@ -30,11 +30,12 @@ class Student : public Structure {
 
   // A whole pixel at which a press takes this atom and no other.
   bool CanPressAlone(int atom) const;
-  // Presses on an atom, alone if that can be.
+  // Presses on an atom, on it alone if possible.
   void PressOn(int atom);
-  // Presses on the atoms, each alone, one after the other; the test fails where that cannot be.
+  // Presses on the atoms one after the other, each alone; the test fails if that is impossible.
   void PressOn(const std::vector<std::string>& labels);
-  // Presses on the atoms, then on the button for so many: distance, angle or torsion. The panel.
+  // Presses on the atoms, then on the button for that many: distance, angle or torsion. Returns the
+  // panel.
   std::string Measure(const std::vector<std::string>& labels);
   double Value();  // the number on the panel
 
@@ -49,7 +50,7 @@ class Student : public Structure {
   Pixel PlaceOf(int atom) const;
 };
 
-// The first word of each row of a list, as the pages name rows.
+// The first word of each row of a list, by which the pages name the rows.
 std::vector<std::string> KeysOf(const List& list);
 
 }  // namespace orvane

@@ -1,5 +1,5 @@
-// The list of faults that a test must see, in tests/faults: here only whether each can still be put
-// into the program. Whether it is seen, tests/faults/run tells.
+// The list of faults that a test must see, in tests/faults. These tests only check that each can
+// still be put into the program; tests/faults/run shows whether it is seen.
 #include <gtest/gtest.h>
 #include <set>
 #include <sstream>
@@ -44,13 +44,13 @@ int CountOf(const std::string& words, const std::string& text) {
   return count;
 }
 
-TEST(TheFaults, AreTwentyAtLeastEachWithANameOfItsOwn) {
+TEST(TheFaults, AreAtLeastTwentyEachWithItsOwnName) {
   std::set<std::string> names;
   for (const Fault& fault : Faults()) EXPECT_TRUE(names.insert(fault.Name).second) << fault.Name;
   EXPECT_GE(names.size(), 20u);
 }
 
-TEST(TheFaults, TakeThePlaceOfLinesThatStandOnceInTheirFile) {
+TEST(TheFaults, ReplaceLinesThatOccurOnceInTheirFile) {
   for (const Fault& fault : Faults()) {
     EXPECT_EQ(CountOf("\n" + fault.Was, ReadProjectFile(fault.File)), 1) << fault.Name;
     EXPECT_NE(fault.Was, fault.Now) << fault.Name;

@@ -1,4 +1,4 @@
-// The direction of the arrows: who includes whom, as the map allows it.
+// The direction of the arrows: who includes whom, and whether the map allows it.
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
@@ -18,7 +18,7 @@ bool Allows(const MapRow& row, const std::string& room) {
          std::find(row.MayInclude.begin(), row.MayInclude.end(), room) != row.MayInclude.end();
 }
 
-// What each file includes of ours.
+// Which of our files each file includes.
 using Graph = std::map<std::string, std::set<std::string>>;
 
 Graph OwnIncludes() {
@@ -29,7 +29,7 @@ Graph OwnIncludes() {
   return graph;
 }
 
-// Every file that `from` reaches, however far.
+// Every file that `from` reaches, directly or not.
 std::set<std::string> Reached(const Graph& graph, const std::string& from) {
   std::set<std::string> reached;
   std::vector<std::string> open{from};
@@ -56,7 +56,7 @@ TEST(Includes, GoOnlyWhereTheMapAllows) {
 }
 
 // A row that allows what nobody does guards less than it could.
-TEST(Includes, AreWhatTheMapAllowsToTheLast) {
+TEST(Includes, AreAllThatTheMapAllows) {
   std::set<std::pair<std::string, std::string>> made;
   for (const Inclusion& i : Inclusions()) {
     if (i.Quoted) made.emplace(RoomOf(i.From), RoomOf(i.Target));
@@ -68,7 +68,7 @@ TEST(Includes, AreWhatTheMapAllowsToTheLast) {
   }
 }
 
-// The rows of the map stand from the ground up.
+// The rows of the map go from the ground up.
 TEST(Includes, RunDown) {
   std::set<std::string> below;
   for (const MapRow& row : Map()) {
@@ -81,7 +81,8 @@ TEST(Includes, RunDown) {
 
 TEST(Includes, NameTheRoomOfEachFile) {
   for (const Inclusion& i : Inclusions()) {
-    if (!i.Quoted || !i.Target.ends_with(".h")) continue;  // a list made at build time is no header
+    if (!i.Quoted || !i.Target.ends_with(".h"))
+      continue;  // a list made at build time is not a header
     EXPECT_TRUE(ProjectHas("src/" + i.Target))
         << "src/" << i.From << ":" << i.Line << " includes " << i.Target;
   }
@@ -102,7 +103,7 @@ TEST(Includes, OfHeadersFormNoRing) {
 }
 
 // A part of the state can be read and tested without the rest of the desk.
-TEST(Includes, OfStateStandOnTheGroundAndOnOtherState) {
+TEST(Includes, OfStateDoNotReachTheWholeDesk) {
   const Graph graph = OwnIncludes();
   const auto state = graph.find("desk/orvane_desk.h");
   ASSERT_NE(state, graph.end());

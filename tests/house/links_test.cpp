@@ -1,4 +1,4 @@
-// The pages of the project: what they point to is there.
+// Checks that everything that the pages of the project point to is there.
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <regex>
@@ -22,7 +22,7 @@ std::vector<std::string> Pages() {
   return pages;
 }
 
-// Where the links and pictures of a page lead, as paths of the project; those to the web left out.
+// Where the links and pictures of a page lead, as paths of the project, without links to the web.
 std::vector<std::string> Targets(const std::string& page) {
   static const std::regex link(R"(\]\(([^)#\s]+)(#[^)]*)?\))");
   const std::string text = ReadProjectFile(page);
@@ -45,7 +45,7 @@ TEST(ThePages, PointToFilesThatExist) {
   }
 }
 
-// Each picture makes a checkout larger, so it stands on a page or goes.
+// Each picture makes a checkout larger, so it must be shown on a page.
 TEST(ThePictures, AreEachShownOnAPage) {
   std::set<std::string> shown;
   for (const std::string& page : Pages()) {

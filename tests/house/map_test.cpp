@@ -29,7 +29,7 @@ TEST(TheMap, NamesOnlyChiefHeadersThatExistInTheirOwnRoom) {
   }
 }
 
-TEST(TheMap, AllowsToIncludeOnlyRoomsThatItHas) {
+TEST(TheMap, AllowsIncludingOnlyRoomsThatItHas) {
   for (const MapRow& row : Map()) {
     for (const std::string& other : row.MayInclude) {
       EXPECT_THAT(RoomsOnTheMap(), Contains(other)) << "in the row of " << row.Room;

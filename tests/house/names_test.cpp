@@ -1,5 +1,5 @@
-// A type has its name to itself. Two of one name in two headers compile, each where the other is
-// not included, and then share a destructor: whichever the linker met first.
+// No two types have the same name. If two headers each had one, they would compile wherever only
+// one of them is included, and then share a destructor: whichever the linker met first.
 #include <gtest/gtest.h>
 #include <map>
 #include <regex>
@@ -10,7 +10,7 @@
 namespace orvane::house {
 namespace {
 
-TEST(TheTypesOfHeaders, HaveEachANameOfItsOwn) {
+TEST(TheTypesOfHeaders, EachHaveTheirOwnName) {
   static const std::regex space("^namespace ([a-z_:]+) \\{$");
   static const std::regex type("^(?:class|struct|enum class) ([A-Za-z_]+)[^;]*\\{");
   std::map<std::string, std::string> header_of;

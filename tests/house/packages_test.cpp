@@ -31,7 +31,7 @@ std::vector<PackageRow> PackageRows() {
   return rows;
 }
 
-TEST(ThePackages, StandInAGroupThatACommandInstalls) {
+TEST(ThePackages, AreInAGroupThatACommandInstalls) {
   const std::set<std::string> groups{"run",   "test", "coverage", "bench",
                                      "peers", "fuzz", "package"};
   ASSERT_FALSE(PackageRows().empty());
@@ -40,7 +40,7 @@ TEST(ThePackages, StandInAGroupThatACommandInstalls) {
   }
 }
 
-TEST(ThePackages, HaveEachAPurpose) {
+TEST(ThePackages, EachHaveAPurpose) {
   for (const PackageRow& row : PackageRows()) EXPECT_GT(row.Purpose.size(), 8u) << row.Package;
 }
 

@@ -1,5 +1,5 @@
 // What `run` and `test` do before they build, played on a made-up machine: a folder of small
-// scripts stands in for dpkg, apt and sudo, and what they were asked is written down.
+// scripts stands in for dpkg, apt and sudo, and notes what they were asked.
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -52,7 +52,7 @@ class Preparing : public ::testing::Test {
   void UserIs(int number) { Has("id", "echo " + std::to_string(number)); }
   void HasSudo() { Has("sudo", "echo sudo >> $MACHINE/asked; exec \"$@\""); }
 
-  // Runs the words after the common part was sourced, as `run` and `test` do.
+  // Runs a command after sourcing the common part, as `run` and `test` do.
   void Play(const std::string& words) {
     const std::string script =
         "set -euo pipefail; root=" ORVANE_SOURCE_DIR "; source $root/tools/prepare.sh; " + words;
@@ -68,7 +68,7 @@ class Preparing : public ::testing::Test {
     Asked.assign(std::istreambuf_iterator<char>(file), {});
   }
 
-  std::string Said;   // both outputs of the words
+  std::string Said;   // both outputs of the command
   std::string Asked;  // what apt-get and sudo were started with
   int ExitStatus = -1;
 
@@ -96,7 +96,7 @@ TEST_F(Preparing, AsksAptOnlyForWhatIsMissing) {
   EXPECT_THAT(Asked, HasSubstr("install g++\n"));
 }
 
-TEST_F(Preparing, TakesAPackageThatWasRemovedButLeftItsFilesForMissing) {
+TEST_F(Preparing, TreatsARemovedPackageThatLeftItsFilesAsMissing) {
   Write("installed", "config-files:g++ ");
 
   Play("need_packages g++");
@@ -104,7 +104,7 @@ TEST_F(Preparing, TakesAPackageThatWasRemovedButLeftItsFilesForMissing) {
   EXPECT_THAT(Asked, HasSubstr("install g++\n"));
 }
 
-TEST_F(Preparing, TakesANameForMissingThatOnlyBeginsAnInstalledOne) {
+TEST_F(Preparing, TreatsANameThatOnlyBeginsAnInstalledOneAsMissing) {
   Write("installed", "installed:g++-12 ");
 
   Play("need_packages g++");
@@ -152,7 +152,7 @@ TEST_F(Preparing, ReadsOneGroupOfTheListAtATime) {
 }
 
 // As ctest writes it: of one test by its exit code, of another by the words of its framework.
-TEST_F(Preparing, SaysWhyATestLeftItselfOut) {
+TEST_F(Preparing, SaysWhyATestSkippedItself) {
   Write("report.xml", R"xml(<testsuite name="(empty)" tests="4" skipped="2">
 	<testcase name="on_paper" classname="on_paper" time="0.01" status="notrun">
 		<skipped message="SKIP_RETURN_CODE=77"/>

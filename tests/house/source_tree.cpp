@@ -92,7 +92,7 @@ std::vector<MapRow> Map() {
   std::string line;
   while (std::getline(text, line) && !line.starts_with("| Folder |")) {
   }
-  std::getline(text, line);  // the rule under the heads
+  std::getline(text, line);  // the rule under the headings
   while (std::getline(text, line) && line.starts_with("|")) {
     const auto cells = Cells(line);
     if (cells.size() < kColumns || Quoted(cells[kRoom]).empty()) continue;

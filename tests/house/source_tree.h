@@ -1,4 +1,4 @@
-// The project's own files, read as data: what the tests of the house look at.
+// The project's own files, read as data for the tests of the house.
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@ namespace orvane::house {
 // One #include of a source or header under src/.
 struct Inclusion {
   std::string From;     // "core/loader.cpp", relative to src/
-  std::string Target;   // what stands between the brackets or the quotes
-  bool Quoted = false;  // "room/file.h", one of ours
+  std::string Target;   // the text between the brackets or the quotes
+  bool Quoted = false;  // "room/file.h", one of our own
   int Line = 0;
 };
 
-// "core" of "core/loader.cpp"; all of it where there is no folder.
+// "core" from "core/loader.cpp"; the whole text if there is no folder.
 std::string RoomOf(std::string_view path);
 
 // The folders directly under src/, sorted.
@@ -27,7 +27,7 @@ std::vector<std::string> Headers();
 // Every #include of every .h and .cpp under src/.
 std::vector<Inclusion> Inclusions();
 
-// The text of a file of the project; empty when there is none.
+// The text of a file of the project; empty if the file does not exist.
 std::string ReadProjectFile(std::string_view path);
 bool ProjectHas(std::string_view path);
 

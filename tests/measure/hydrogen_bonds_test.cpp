@@ -8,8 +8,8 @@
 namespace orvane {
 namespace {
 
-// How many hydrogen bonds two atoms so far apart have. The as-read place is set past the columns of
-// a record, so that a window's edge is met to the last bit.
+// How many hydrogen bonds two atoms this far apart have. The position is set directly and not by
+// the columns of a record, so that it meets the edge of a window to the last bit.
 int Found(std::string_view one, std::string_view other, double length, int nucleic_mode) {
   DeskAtWork work;
   work.desk.drawing.NucleicMode = nucleic_mode;
@@ -19,13 +19,13 @@ int Found(std::string_view one, std::string_view other, double length, int nucle
   return work.desk.molecule.HBondCount;
 }
 
-TEST(HydrogenBonds, ANitrogenAndAnOxygenInTheWindowHoldOneInEitherOrder) {
+TEST(HydrogenBonds, ANitrogenAndAnOxygenInTheWindowHaveOneInEitherOrder) {
   EXPECT_EQ(Found("N", "O", 2.9, 0), 1);
   EXPECT_EQ(Found("O", "N", 2.9, 0), 1);
   EXPECT_EQ(Found("NE2", "OD1", 2.9, 0), 1);  // side chains count like the backbone
 }
 
-TEST(HydrogenBonds, OtherPairsHoldNone) {
+TEST(HydrogenBonds, OtherPairsHaveNone) {
   EXPECT_EQ(Found("O", "O", 2.9, 0), 0);
   EXPECT_EQ(Found("N", "N", 2.9, 0), 0);
   EXPECT_EQ(Found("C", "O", 2.9, 0), 0);
@@ -39,7 +39,7 @@ TEST(HydrogenBonds, TheWindowIsOpenBelowAndClosedAbove) {
 }
 
 TEST(HydrogenBonds, TheDistanceIsComparedIn32Bits) {
-  // 2.7 and 3.1 in 64 bits lie beside their 32-bit values and round to them.
+  // 2.7 and 3.1 in 64 bits lie next to their 32-bit values and round to them.
   EXPECT_EQ(Found("N", "O", 2.7, 0), 0);
   EXPECT_EQ(Found("N", "O", 3.1, 0), 1);
   EXPECT_EQ(Found("N", "O", 3.1F + 1e-8, 0), 1);
@@ -56,15 +56,15 @@ TEST(HydrogenBonds, BasePairsGoByTwoCharactersInEitherOrder) {
   }
 }
 
-TEST(HydrogenBonds, NamesBesideTheBasePairTableHoldNone) {
+TEST(HydrogenBonds, NamesOutsideTheBasePairTableHaveNone) {
   EXPECT_EQ(Found("N", "O", 2.9, 1), 0);
   EXPECT_EQ(Found("N1", "N1", 2.9, 1), 0);
   EXPECT_EQ(Found("O2", "O4", 2.9, 1), 0);
   EXPECT_EQ(Found("N6", "O6", 2.9, 1), 0);
 }
 
-TEST(HydrogenBonds, OnlyTheFirstTwoCharactersOfABaseNameAreLookedAt) {
-  EXPECT_EQ(Found("O2*", "N2", 2.9, 1), 1);  // an oxygen of the sugar counts, too
+TEST(HydrogenBonds, OnlyTheFirstTwoCharactersOfABaseNameCount) {
+  EXPECT_EQ(Found("O2*", "N2", 2.9, 1), 1);  // an oxygen of the sugar counts too
 }
 
 TEST(HydrogenBonds, AnyOtherModeKnowsNone) {
@@ -98,7 +98,7 @@ TEST(HydrogenBonds, LeaveThePointsOfTheLastPairBehind) {
 TEST(HydrogenBonds, OneAtomHasNoneAndLeavesPointB) {
   DeskAtWork work;
   work.desk.molecule.PointB = {7, 8, 9};
-  EXPECT_THROW(Load(work.desk, Record("N", 0, 0, 0)), Failure);  // a box without extent
+  EXPECT_THROW(Load(work.desk, Record("N", 0, 0, 0)), Failure);  // a box with no extent
 
   EXPECT_EQ(work.desk.molecule.HBondCount, 0);
   EXPECT_EQ(work.desk.molecule.PointB.X, 7);
@@ -123,7 +123,7 @@ TEST(HydrogenBonds, AQualifyingPairClearsTheReadout) {
 
   Load(work.desk, Record("C", 0, 0, 0) + Record("O", 2.9, 0, 0));
   work.desk.main.P_Dst_Show.Caption = "old";
-  FindHydrogenBonds(work.desk);  // no pair passes by its names, so no distance is worked out
+  FindHydrogenBonds(work.desk);  // no pair has the right names, so no distance is worked out
   EXPECT_EQ(work.desk.main.P_Dst_Show.Caption, "old");
 }
 

@@ -23,8 +23,8 @@ struct MeasureTest : testing::Test, DeskAtWork {
     for (const int atom : atoms) TakePick(desk, atom);
   }
 
-  // Four atoms: the middle bond along z, and the last turned about it by so many degrees from the
-  // first. The names are those of the backbone unless others are asked for.
+  // Four atoms: the middle bond is along z, and the last atom is turned about it by that many
+  // degrees from the first. The names are those of the backbone unless others are given.
   std::string Twisted(double degrees, std::array<const char*, 4> names = {"N1", "N2", "N3", "N4"}) {
     const double angle = degrees * kRadians;
     return Record(names[0], 1.5, 0, -0.5, {.Residue = "ALA", .Seq = 1}) +
@@ -71,7 +71,7 @@ TEST_F(MeasureTest, ADistanceShowsNamesValueAndResidues) {
   EXPECT_EQ(Readout(), "  CA  -  O5*: 01.50 Angs \n   ALA 4 -   G -2");
 }
 
-TEST_F(MeasureTest, ADistanceIsThatOfThePlacesAsRead) {
+TEST_F(MeasureTest, ADistanceIsThatOfThePositionsAsRead) {
   Load(desk, Record("N", 0, 0, 0) + Record("O", 3, 4, 12));
   for (const int value : {5, 10, 15}) StepBar(desk, desk.main.ZoomBar, value);
   Pick({1, 2});
@@ -122,10 +122,10 @@ TEST_F(MeasureTest, AtomsOnOneLineFailInABoxAndMeasuringGoesOn) {
             std::vector<std::string>{
                 "failure Angle could not be finished: a number was divided by zero."});
   EXPECT_EQ(measure.MeasureOn, 0);
-  EXPECT_EQ(measure.PickState, 3);  // left as the failure found it
+  EXPECT_EQ(measure.PickState, 3);  // as it was before the failure
   EXPECT_EQ(Readout(), "earlier");
 
-  Click(desk, desk.main.Bt3_Dts);  // the points are as they were picked
+  Click(desk, desk.main.Bt3_Dts);  // the points are still as picked
   EXPECT_EQ(Readout(), "  N   -  CA : 02.00 Angs \n   GLY 1 - GLY 1");
   Pick({1, 3, 4});
   Click(desk, desk.main.Bt3_Ang);
@@ -133,8 +133,8 @@ TEST_F(MeasureTest, AtomsOnOneLineFailInABoxAndMeasuringGoesOn) {
 }
 
 TEST_F(MeasureTest, ALineOnWhichTheCosinePasses1FailsToo) {
-  // Some of these round to a cosine above 1, whose root would be no number; none may get through as
-  // one.
+  // Some of these round to a cosine above 1, whose root would not be a number. None of them may get
+  // through as a result.
   for (int i = 1; i < 200; ++i) {
     const double step = 0.1 * i;
     desk.molecule.PointA = {step, step / 3, step / 7};
@@ -150,20 +150,20 @@ TEST_F(MeasureTest, ALineOnWhichTheCosinePasses1FailsToo) {
   }
 }
 
-// Records hold thousandths of an Angstrom, at 1.5 from the axis a fiftieth of a degree.
+// Records hold thousandths of an Angstrom; at 1.5 from the axis that is a fiftieth of a degree.
 TEST_F(MeasureTest, ATorsionKnowsNoQuadrant) {
   EXPECT_NEAR(TorsionOf(120), 120, 0.02);
   EXPECT_NEAR(TorsionOf(178), 178, 0.02);
   EXPECT_NEAR(TorsionOf(-120), -120, 0.02);
   EXPECT_NEAR(TorsionOf(-178), -178, 0.02);
-  EXPECT_NEAR(TorsionOf(2), -178, 0.02);  // small ones come out across the circle
+  EXPECT_NEAR(TorsionOf(2), -178, 0.02);  // small ones come out on the other side of the circle
   EXPECT_NEAR(TorsionOf(-2), 178, 0.02);
   EXPECT_NEAR(TorsionOf(60), -120, 0.02);
 }
 
 TEST_F(MeasureTest, ATorsionOf0StaysAt0) { EXPECT_EQ(TorsionOf(0), 0); }
 
-TEST_F(MeasureTest, ATorsionKeepsItsSizeHoweverItsAtomsLieAndItsSignWhileTheMiddleBondRunsUp) {
+TEST_F(MeasureTest, ATorsionKeepsItsSizeInAnyPositionAndItsSignWhileTheMiddleBondRunsUp) {
   using Place = Point (*)(const Point&);
   const auto torsion_of = [&](Place place) {
     const double angle = 130 * kRadians;
@@ -187,7 +187,7 @@ TEST_F(MeasureTest, ATorsionKeepsItsSizeHoweverItsAtomsLieAndItsSignWhileTheMidd
 }
 
 TEST_F(MeasureTest, ATorsionShowsFourAtomsAndAnyOtherNameIsTor) {
-  Load(desk, Twisted(120, {"C1", "N", "CA", "C"}));  // C1 is no C
+  Load(desk, Twisted(120, {"C1", "N", "CA", "C"}));  // C1 is not C
   Pick({1, 2, 3, 4});
   Click(desk, desk.main.Bt3_Trg);
 
@@ -322,7 +322,7 @@ TEST_F(MeasureTest, ATurnBetweenPicksAndButtonSpoilsTheFirstPoint) {
   EXPECT_EQ(measure.PickState, 0);
   Click(desk, desk.main.Bt3_Dts);
 
-  // PointA is the turned third atom now, while the line still names the first.
+  // PointA is now the turned third atom, while the line still names the first.
   const Molecule& m = desk.molecule;
   EXPECT_DOUBLE_EQ(m.DistResult, std::hypot(m.CurX[3] - 2, m.CurY[3] - 2, m.CurZ[3] - 2));
   EXPECT_TRUE(Readout().starts_with("  N   -  O  : "));

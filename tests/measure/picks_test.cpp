@@ -8,7 +8,7 @@ namespace orvane {
 namespace {
 
 struct PicksTest : testing::Test, PlacedAtoms {
-  // An atom on the surface with its own place as read.
+  // An atom on the surface, with its own position as read.
   int ReadAtom(std::string_view name, double x, double y) {
     const int i = Atom(name, x, y);
     desk.molecule.AtomX[i] = i + 0.25;
@@ -53,7 +53,7 @@ TEST_F(PicksTest, FourPicksFillFourPointsAndTheCycleBeginsAgain) {
   ExpectPlaceOf(desk.molecule.PointA, 5);
 }
 
-TEST_F(PicksTest, TheThirdPickHandsTheThreePointsOn) {
+TEST_F(PicksTest, TheThirdPickPassesOnTheThreePoints) {
   for (int i = 0; i < 3; ++i) ReadAtom("  CA ", 50 * i, 100);
   for (int i = 0; i < 3; ++i) PressAt(50.0f * static_cast<float>(i), 100);
 
@@ -104,9 +104,8 @@ TEST_F(PicksTest, TheReachIsASquareOfThreePixelsToEachSide) {
 }
 
 TEST_F(PicksTest, TheBoundsOfTheSquareAreNarrowedTo32Bits) {
-  // 16777221 - 3 has no 32-bit float; the nearest with an even mantissa, 16777218, has. 16777220 -
-  // 3 lies half way between 16777216 and 16777218 and goes to 16777216, so that place counts as
-  // near.
+  // 16777220 - 3 = 16777217 has no 32-bit float. It lies half way between 16777216 and 16777218 and
+  // goes to 16777216, whose mantissa is even. So the atom counts as near.
   ReadAtom("  CA ", 16777216, 100);
   PressAt(16777220, 100);
 

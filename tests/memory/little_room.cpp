@@ -9,9 +9,9 @@ namespace orvane {
 namespace {
 
 constexpr rlim_t kRoom = 80 * 1024;   // bytes; half of a pair, the smallest picture, has 118 * 1024
-constexpr int kOwnPages = 64 * 1024;  // bytes; what is larger comes from the system each time
+constexpr int kOwnPages = 64 * 1024;  // bytes; anything larger comes from the system each time
 
-// From the start: what once lay among the small things would be given away again.
+// Set at the start: memory that had once been among the small things would be given out again.
 const int from_the_system = mallopt(M_MMAP_THRESHOLD, kOwnPages);
 
 rlim_t AddressSpace() {

@@ -1,5 +1,5 @@
-// A process that is given hardly any memory more, as on a full machine: small things find their
-// place, pictures do not.
+// A process that gets hardly any more memory, as on a full machine: there is room for small things
+// but not for pictures.
 #pragma once
 
 #include <sys/resource.h>

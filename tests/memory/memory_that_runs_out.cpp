@@ -5,7 +5,7 @@
 
 namespace {
 
-long left = 0;  // calls up to the refused one; 0: none is refused
+long left = 0;  // calls left up to the refused one; 0: none is refused
 bool refused = false;
 
 void* Given(std::size_t size) {

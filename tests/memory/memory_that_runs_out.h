@@ -1,10 +1,9 @@
-// Memory that is refused once, at the call of one's choice.
+// Memory that is refused once, at a chosen call.
 #pragma once
 
 namespace orvane {
 
-// Refuses from its start to its end: the `at`th time that memory is asked for, from 1, and no
-// other.
+// While it exists, it refuses the `at`th request for memory, counted from 1, and no other.
 class MemoryRunsOut {
  public:
   explicit MemoryRunsOut(long at);

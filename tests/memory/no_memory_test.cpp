@@ -17,7 +17,7 @@
 namespace orvane {
 namespace {
 
-// The first ones each, then ever fewer: some commands ask many thousand times.
+// Each of the first requests, then fewer and fewer, since some commands ask many thousand times.
 long Next(long at) { return at + 1 + at / 8; }
 
 class NoMemory : public ::testing::TestWithParam<Situation> {};
@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(EveryCommand, NoMemory, ::testing::ValuesIn(Situations(
                            return name;
                          });
 
-// A picture with all that a raster keeps: balls, letters and a ground.
+// A picture with all that a raster keeps: balls, letters and a background.
 std::shared_ptr<const Picture> FullPicture(FailingDesk& work) {
   Orvane_Desk& desk = work.desk;
   Click(desk, desk.main.Bt3_Label, Reach::Forced);

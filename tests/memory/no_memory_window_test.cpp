@@ -1,4 +1,4 @@
-// A picture in its window, when there is no memory to paint it.
+// A picture in its window when there is no memory to paint it.
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -11,7 +11,7 @@
 namespace orvane {
 namespace {
 
-// A structure with names, which nobody has looked at yet.
+// A structure with names that has not been shown yet.
 struct Unseen : WindowAtWork {
   PictureWidget& widget = dynamic_cast<PictureWidget&>(WidgetOf(main.Picture1));
 
@@ -22,7 +22,7 @@ struct Unseen : WindowAtWork {
   }
 };
 
-TEST(NoMemoryForAWindow, IsToldOnceAndThePictureComesBack) {
+TEST(NoMemoryForAWindow, IsReportedOnceAndThePictureComesBack) {
   const QImage expected = Unseen().widget.Pixels();
   ASSERT_FALSE(expected.isNull());
   int refusals = 0;

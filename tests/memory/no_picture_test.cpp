@@ -1,4 +1,4 @@
-// The toolkit asks for the memory of its images by itself, and says nothing when there is none.
+// The toolkit itself allocates the memory of its images, and says nothing when there is none.
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
@@ -22,7 +22,7 @@ struct NoPicture : testing::Test, WindowAtWork {
 };
 
 // Half of a pair has not been on the screen yet, so its image is still to be made.
-TEST_F(NoPicture, OnTheScreenIsToldOnceAndComesBack) {
+TEST_F(NoPicture, OnTheScreenIsReportedOnceAndComesBack) {
   Click(desk, main.Bt3_Sterio);
   auto& widget = dynamic_cast<PictureWidget&>(WidgetOf(main.L_Img));
   {

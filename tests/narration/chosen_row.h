@@ -1,4 +1,4 @@
-// A structure on the desk, chosen from its list as a student does.
+// A structure on the desk, chosen from its list as by a student.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-// The row of the list that begins so.
+// The row of the list that begins like this.
 inline void Choose(DeskAtWork& work, List& list, std::string_view start) {
   const auto& rows = list.Rows.Get();
   for (std::size_t row = 0; row < rows.size(); ++row) {

@@ -9,16 +9,16 @@
 
 namespace orvane {
 
-// An action that a control is there for. It works on any desk.
+// An action that a control offers. It works on any desk.
 struct Command {
   std::string Name;  // "click S_bmp"
   std::function<void(Orvane_Desk& desk)> Do;
 };
 
-// Those whose control is open to the user as the desk stands, and the ticks.
+// The commands whose controls are open to the user on this desk, and the ticks.
 std::vector<Command> EveryCommand(const Orvane_Desk& desk);
 
-// How a desk stands when a command comes, in a few words.
+// The state of a desk when a command comes, in a few words.
 struct Situation {
   const char* Name;
   void (*Prepare)(Orvane_Desk& desk);

@@ -1,4 +1,4 @@
-// A desk whose outside world may fail, and what is to hold afterwards.
+// A desk whose outside world may fail, and what must hold afterwards.
 #pragma once
 
 #include <memory>
@@ -24,10 +24,10 @@ struct FailingDesk {
   int Count(std::string_view beginning) const;  // of the effects
 };
 
-// One box, and nothing in it but words: "Reset could not be finished: the disk is full."
+// One box with plain words and nothing else: "Reset could not be finished: the disk is full."
 void ExpectPlainBox(const FailingDesk& work, const std::string& clause);
 
-// What a student does next: the same again, another structure, a turn, a save.
+// What a student does next: the same action again, another structure, a turn, a save.
 void ExpectToGoOn(FailingDesk& work, const Command& command);
 
 }  // namespace orvane

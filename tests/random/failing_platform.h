@@ -1,4 +1,4 @@
-// An outside world in which any one call can fail: it counts the calls, and one of them goes wrong.
+// An outside world in which any one call can fail. It counts the calls and makes one of them fail.
 #pragma once
 
 #include <array>
@@ -36,10 +36,10 @@ inline constexpr auto kCallNames = std::to_array<std::string_view>(
      "SoundStop", "SoundClose", "SoundIsOpen", "SoundLength"});
 
 enum class Way {
-  Clause,   // FailPlatform, as what cannot be done does
-  TwoFold,  // the same, and the box that tells of it cannot be shown either
-  Memory,   // there is none left for it
-  Refusal,  // it comes back, with the answer that says no
+  Clause,   // FailPlatform, as for anything that cannot be done
+  TwoFold,  // the same, and the box that reports it cannot be shown either
+  Memory,   // there is no memory left for it
+  Refusal,  // it returns normally, with an answer that says no
 };
 inline constexpr auto kWayNames = std::to_array<std::string_view>(
     {"with a clause", "with a clause and no box for it", "for want of memory", "by refusing"});
@@ -104,7 +104,7 @@ class FailingPlatform : public FakePlatform {
   int SoundLength() override { return Goes(Call::SoundLength) ? FakePlatform::SoundLength() : 0; }
 
  private:
-  // False: it refuses.
+  // Returns false if the call is to be refused.
   bool Goes(Call call) {
     const bool fails = static_cast<int>(Calls.size()) == FailsAt;
     Calls.push_back(call);

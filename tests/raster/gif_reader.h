@@ -1,4 +1,4 @@
-// Reads a GIF back with the library's reader, for tests of what was written.
+// Reads a GIF back with the library's reader, so that tests can check what was written.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ namespace orvane {
 struct ReadFrame {
   int Left = 0, Top = 0, Width = 0, Height = 0;
   int Delay = 0;  // hundredths of a second
-  Bitmap Screen;  // the whole picture when this frame has been drawn over the others
+  Bitmap Screen;  // the whole picture after this frame has been drawn over the others
 };
 
 struct ReadGif {

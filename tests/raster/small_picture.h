@@ -24,7 +24,7 @@ struct SmallPicture : Picture {
 std::uint32_t WordAt(const Bitmap& bitmap, int x, int y);
 int RedAt(const Bitmap& bitmap, int x, int y);
 
-// A row of numbers of three places to a row of pixels.
+// One row of three-digit numbers for each row of pixels.
 std::string Reds(const Bitmap& bitmap);
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-// Scripts played in process.
+// Plays scripts inside the test process.
 #pragma once
 
 #include <sstream>
@@ -18,7 +18,7 @@ struct Played {
 
 Played Play(const std::string& script, bool trace = false);
 
-// A player that a test feeds line by line, to look at the desk in between.
+// A player that a test feeds line by line, so that it can look at the desk in between.
 struct Session {
   std::ostringstream stream;
   Player player;
@@ -26,13 +26,13 @@ struct Session {
   explicit Session(bool trace = false) : player(stream, trace) {}
   Orvane_Desk& Desk() const { return *player.desk; }
 
-  // Plays the lines and gives what they printed. A line that is no action fails the test.
+  // Plays the lines and returns what they printed. A line that is not an action fails the test.
   std::string Do(std::string_view lines);
-  // What the player says about a line that is no action.
+  // What the player says about a line that is not an action.
   std::string Complaint(std::string_view line) { return PlayLine(player, line); }
 };
 
-// The two clicks of `enter`, as they are printed.
+// What the two clicks of `enter` print.
 inline constexpr std::string_view kEntered =
     "hide Orvane_Front\nshow Content\nhide Content\nshow Orvane_Desk\n";
 

@@ -1,4 +1,4 @@
-// What is alike in sugars, bases and strands.
+// What sugars, bases and strands have in common.
 #pragma once
 
 #include "stock/structure.h"
@@ -6,8 +6,8 @@
 
 namespace orvane {
 
-// `ring` names the oxygen and then the carbons from the one that bears the base; `residue` stands
-// before each name ("3 ").
+// `ring` names the oxygen and then the carbons, beginning with the one that carries the base;
+// `residue` is put before each name ("3 ").
 Pucker PuckerOf(const Structure& structure, const std::string& residue, const char* ring);
 
 using stock_check::BondsOfBase;

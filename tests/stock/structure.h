@@ -1,4 +1,5 @@
-// A stock structure as a student gets it, by a click on its row, and what a chemist asks of it.
+// A stock structure as a student gets it, by a click on its row, with the measures that a chemist
+// wants.
 #pragma once
 
 #include <map>
@@ -20,14 +21,14 @@ struct Pair {
   int A = 0, B = 0;  // atom numbers, A above B
 };
 
-// One line of a picture, by the atoms at its ends; 0 where no atom is.
+// One line of a picture, by the atoms at its ends; 0 where there is no atom.
 struct AtomLine {
   int From = 0, To = 0;
 };
 
 class Structure {
  public:
-  // Clicks the row of the list that begins so.
+  // Clicks the row of the list that begins like this.
   Structure(Rows list, std::string_view row);
 
   Orvane_Desk& Desk() { return work_.desk; }
@@ -40,10 +41,10 @@ class Structure {
   std::vector<int> Named(std::string_view name) const;
   Point At(int atom) const;
 
-  // Measured by the program's own routines on the as-read coordinates; Angstrom and degrees.
+  // Measured by the program's own routines on the coordinates as read; Angstrom and degrees.
   double Length(int a, int b);
   double Angle(int a, int b, int c);
-  // The torsion with its sign and size, which the program's one-argument arctangent leaves out.
+  // The torsion with its sign and full size, which the program's one-argument arctangent loses.
   double Torsion(int a, int b, int c, int d) const;
   // What the program's routine makes of it, with the sign that the stock chains get.
   double ShownTorsion(int a, int b, int c, int d, int kind);
@@ -52,9 +53,10 @@ class Structure {
 
   std::vector<Pair> Bonds() const;
   std::vector<Pair> HydrogenBonds() const;
-  // Entries of the bond list that are no chemical bond: two hydrogens, or a hydrogen too far away.
+  // Entries of the bond list that are not chemical bonds: two hydrogens, or a hydrogen too far
+  // away.
   bool IsContact(Pair pair);
-  // Chemical bonds as "C1-O1", the names in the order of the alphabet, sorted; residues left out.
+  // Chemical bonds as "C1-O1", each with its names in alphabetical order, sorted, without residues.
   std::vector<std::string> BondNames();
 
   // The lines now on the surface.
@@ -64,7 +66,7 @@ class Structure {
   DeskAtWork work_;
 };
 
-// "a b c" to its words.
+// Splits "a b c" into its words.
 std::vector<std::string> WordsOf(std::string_view text);
 
 // How far the farthest of these atoms lies from a plane through all of them; Angstrom.
