@@ -44,7 +44,7 @@ struct PlaceToPress {
   }
 };
 
-// In whole pixels round the atom: the one that takes the fewest atoms besides it, and of
+// Of the whole pixels around the atom, the one where a press takes the fewest other atoms, and of
 // those the nearest. None when all of them lie outside the picture.
 std::optional<PlaceToPress> BestPlace(const Orvane_Desk& desk, int atom) {
   const Molecule& molecule = desk.molecule;
@@ -69,7 +69,7 @@ std::optional<PlaceToPress> BestPlace(const Orvane_Desk& desk, int atom) {
   return best;
 }
 
-// Which atom was taken as the first, ... fourth of the cycle.
+// The atom that was taken as the first, second, third or fourth of the cycle.
 int PickOf(const Orvane_Desk& desk, int order) {
   const int picks[] = {desk.molecule.BondAtomA, desk.molecule.BondAtomB, desk.measure.PickAtomC,
                        desk.measure.PickAtomD};
@@ -82,14 +82,14 @@ bool IsOnPicture(const Orvane_Desk& desk, int atom) {
          y < desk.main.Picture1.ScaleHeight();
 }
 
-// A pick by the pointer goes on with the cycle, and four of them come round to the same state.
+// Picks by the pointer continue the cycle, and four of them bring it back to the same state.
 bool IsPickInForce(const Orvane_Desk& desk) {
   const WalkedAtom& walk = desk.walk;
   return walk.Picked != 0 && desk.measure.PickState == walk.Order % 4 &&
          PickOf(desk, walk.Order) == walk.Picked;
 }
 
-// A press that failed on the way has not taken all that lies there, and nothing is told of it.
+// A press that failed on the way has not taken every atom there, so nothing is said of it.
 void KeepPick(Orvane_Desk& desk, const PlaceToPress& place, int state_before) {
   const int state = desk.measure.PickState;
   if (state != (state_before + place.Taken) % 4) return;

@@ -7,7 +7,7 @@
 namespace orvane {
 namespace {
 
-// Third character of an atom's name, and what stands there.
+// The third character of an atom's name, and the word for what it means.
 struct WordOfElement {
   char Letter;
   std::string_view Word;
@@ -27,7 +27,7 @@ constexpr double kSameSpot = 0.01;  // surface pixels
 
 bool Meet(double a, double b) { return std::fabs(a - b) < kSameSpot; }
 
-// The atom whose place on the surface is there; of several the last.
+// The atom whose place on the surface is there; the last of several.
 int AtomThere(const Molecule& molecule, float x, float y) {
   for (int i = molecule.AtomCount; i >= 1; --i) {
     if (Meet(molecule.ScrX[i], x) && Meet(molecule.ScrY[i], y)) return i;
@@ -41,7 +41,7 @@ class Search {
   Search(const Molecule& molecule, double x, double y, double reach)
       : molecule_(molecule), x_(x), y_(y), nearest_(reach) {}
 
-  // `held` is the stroke on the surface whose places are those of the atoms, `shown` the same
+  // `held` is the stroke on the surface, whose places are those of the atoms; `shown` is the same
   // stroke in the picture under the pointer.
   void Ask(const Stroke& held, const Stroke& shown) {
     const double ball = shown.Kind == StrokeKind::Circle ? shown.X2 + shown.Width / 2.0 : -1;
@@ -111,7 +111,7 @@ int AtomAt(const Orvane_Desk& desk, const ImageBox& half, float x, float y, floa
   const auto& shown = half.Shown();
   const auto held = desk.main.Picture1.Image();
   if (shown == nullptr || !IsTurned(*held, *shown)) return 0;
-  // A half fills the control with the whole of its picture.
+  // A half of a split view shows its whole picture across the control.
   const double scale = shown->Width * static_cast<double>(TwipsPerPixel) / half.At.Get().Width;
   Search search(desk.molecule, x * scale, y * scale, reach * scale);
   for (std::size_t k = 0; k < held->Strokes.size(); ++k) {

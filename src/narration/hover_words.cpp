@@ -8,7 +8,7 @@ namespace orvane {
 namespace {
 
 std::string AtomAndRecipe(const Orvane_Desk& desk, int atom) {
-  if (desk.view.AutoRotateOn == 1) return {};  // gone from there before it is read
+  if (desk.view.AutoRotateOn == 1) return {};  // the atom moves on before this is read
   const std::string recipe = RecipeWords(desk, atom);
   return AtomWords(desk, atom) + (recipe.empty() ? "" : "\n") + recipe;
 }

@@ -10,7 +10,7 @@
 namespace orvane {
 namespace {
 
-constexpr double kCovering = 2;  // pixels between the middles of two circles that touch
+constexpr double kCovering = 2;  // pixels between the centres of two circles that touch
 
 // A row of the survey that was plotted on an area.
 struct Plotted {
@@ -26,8 +26,8 @@ bool HasCircle(const Picture& picture, double x, double y) {
   return false;
 }
 
-// The plot pass has put the place of a circle where the angle stood. The way back is exact, but for
-// rounding.
+// The plot pass has replaced each angle by the place of its circle. The way back is exact except
+// for rounding.
 double AngleAt(double place, double side, double middle, double scale) {
   return (place - side / 2) / (scale * (side / 2)) + middle;
 }

@@ -42,8 +42,8 @@ bool RepeatsAKey(std::string_view bracket) {
   return !RowOfKey(FirstWord(within)).empty();
 }
 
-// The amino acids stand in capitals in their list. A name that mixes both, "DeoxyAdenosine", means
-// it so.
+// The amino acids are in capitals in their list. A name that mixes both, "DeoxyAdenosine", is left
+// as it is.
 std::string Calm(std::string_view name) {
   std::string text(name);
   if (std::ranges::any_of(text, IsSmall)) return text;
@@ -63,7 +63,8 @@ bool HasResidue(const Molecule& molecule, int atom, int first) {
   return molecule.ResSeq[atom] == molecule.ResSeq[first];
 }
 
-// The generator remembers the four atoms of the frame on which others hang, then its own in order.
+// The generator remembers the four atoms of the frame from which others are placed, then its own in
+// order.
 constexpr std::size_t kRemembered = 4;
 
 bool WasBuiltBy(const Orvane_Desk& desk, std::string_view key) {

@@ -9,18 +9,18 @@
 
 namespace orvane {
 
-// As the window's title has it, without a bracket that only repeats the list's key: "Alanine",
-// "Alpha helix structure (polypeptide)". Empty where the title names none.
+// The name as the window's title has it, without a bracket that only repeats the list's key:
+// "Alanine", "Alpha helix structure (polypeptide)". Empty where the title names none.
 std::string StructureName(const Orvane_Desk& desk);
 
-// Of the residue that an atom belongs to, for the middle of a sentence: "alanine",
-// "DeoxyAdenosine". A residue that no list has keeps the name of its records.
+// The name of the residue that an atom belongs to, for the middle of a sentence: "alanine",
+// "DeoxyAdenosine". A residue that is in no list keeps the name in its records.
 std::string ResidueName(const Orvane_Desk& desk, int atom);
 
 bool HasSeveralResidues(const Molecule& molecule);
 
-// Key of the amino acid that was built on the frame, if it is what stands on the desk; else empty.
-// Its records name glycine whatever it is.
+// The key of the amino acid that was built on the frame, if that is what is loaded; else empty. Its
+// records name glycine whatever it is.
 std::string_view GeneratedKey(const Orvane_Desk& desk);
 
 std::string WithCapital(std::string text);         // the first letter, and no other

@@ -7,9 +7,9 @@
 namespace orvane {
 namespace {
 
-constexpr int kStickWidth = 3;  // thinner bonds are wires, also where a split view widens them
+constexpr int kStickWidth = 3;  // thinner bonds are wires, even where a split view widens them
 
-// Something that the picture shows or not.
+// Something that the picture may or may not show.
 struct Trait {
   std::string_view Words;
   bool (*Holds)(const Orvane_Desk&);
@@ -32,7 +32,7 @@ constexpr Trait kModes[] = {
     {"sticks", [](const Orvane_Desk&) { return true; }},
 };
 
-// What is on besides: all that hold.
+// What else is on: all that hold.
 constexpr Trait kExtras[] = {
     {"peptide planes",
      [](const Orvane_Desk& d) { return HasPlanes(d) && d.drawing.PlanesOnly != 1; }},

@@ -13,7 +13,7 @@ namespace orvane {
 namespace {
 
 constexpr double kDegrees = 180 / std::numbers::pi;
-constexpr double kShownApart = 0.05;  // degrees; what one decimal cannot tell
+constexpr double kShownApart = 0.05;  // degrees; one decimal does not show less
 
 Point Minus(const Point& a, const Point& b) { return {a.X - b.X, a.Y - b.Y, a.Z - b.Z}; }
 double Dot(const Point& a, const Point& b) { return a.X * b.X + a.Y * b.Y + a.Z * b.Z; }

@@ -1,4 +1,5 @@
-// What a screen reader says of a control at this moment, where that hangs on more than the control.
+// What a screen reader says of a control at this moment, where that depends on more than the
+// control.
 #pragma once
 
 #include <string>
@@ -7,12 +8,12 @@
 
 namespace orvane {
 
-// The picture, and the pair of views in its place, are called by what they show. Any other control
+// The picture, and the pair of views in its place, are named by what they show. Any other control
 // has its spoken name.
 std::string NameNow(const Orvane_Desk& desk, const Control& control);
 
-// The picture tells on which atom the walk stands and how that was placed; else it is the tip, what
-// a click does.
+// For the picture, the atom on which the walk stands and how it was placed; otherwise the tip,
+// which says what a click does.
 std::string DescriptionNow(const Orvane_Desk& desk, const Control& control);
 
 }  // namespace orvane

@@ -39,7 +39,7 @@ std::string PathOf(const std::string& folder, const std::string& name) {
   return folder + "/" + name;
 }
 
-// A file of the system's; closed at the end, also when there is no memory for what it holds.
+// An open file, which is closed at the end even when there is no memory for what it holds.
 struct OpenFile {
   const int Number;  // below 0: it could not be opened
 
@@ -51,10 +51,10 @@ struct OpenFile {
   }
 };
 
-// Open until its end, and gone then unless it was renamed.
+// Open until the object ends, and then deleted unless it was renamed.
 class FileAside {
  public:
-  // The system puts letters of its own in the place of six X.
+  // The system puts letters of its own in place of the six X.
   explicit FileAside(const std::string& path) : path_(path + "." + std::string(6, 'X')) {
     file_ = mkostemp(path_.data(), O_CLOEXEC);
   }
@@ -68,7 +68,7 @@ class FileAside {
 
   bool IsOpen() const { return file_ >= 0; }
 
-  // On the disk, not only on its way there: a full one may tell at the end.
+  // Waits until the bytes are on the disk: a full disk may report it only at the end.
   bool Write(const FileBytes& bytes) {
     for (std::size_t done = 0; done < bytes.size();) {
       const ssize_t count = write(file_, bytes.data() + done, bytes.size() - done);
@@ -78,7 +78,7 @@ class FileAside {
     return fsync(file_) == 0;
   }
 
-  // Readable to whom the user's other files are.
+  // With the permissions that the user's other files get.
   bool Rename(const std::string& path) {
     const mode_t mask = umask(0);
     umask(mask);

@@ -1,4 +1,5 @@
-// A file appears whole or not at all: it is written aside, in the same folder, and then renamed.
+// A file appears whole or not at all: it is written under another name in the same folder, and then
+// renamed.
 #pragma once
 
 #include <optional>
@@ -12,7 +13,7 @@ namespace orvane {
 // stays as it was.
 void WriteAside(const std::string& folder, const std::string& name, const FileBytes& bytes);
 
-// Nothing when there is no such file; anything else that is wrong fails.
+// Nothing when there is no such file; any other error fails.
 std::optional<FileBytes> ReadWhole(const std::string& folder, const std::string& name);
 
 }  // namespace orvane

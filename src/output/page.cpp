@@ -33,7 +33,7 @@ void ComposeSurface(Orvane_Desk& desk) {
   page.L_Form.Visible = false;
   page.AA_name.Visible = false;
   page.Str_Entm.Visible = false;
-  page.L_Img.SetPicture(nullptr);  // the large picture does not cover them to their edges
+  page.L_Img.SetPicture(nullptr);  // the large picture does not cover all of them
   page.R_Img.SetPicture(nullptr);
   page.Image1.SetPicture(desk.main.Picture1.Image());
   page.Image1.Visible = true;

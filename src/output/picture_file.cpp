@@ -7,14 +7,15 @@
 namespace orvane {
 namespace {
 
-// Letters, not bytes: every byte of UTF-8 but those that go on with a letter.
+// Letters, not bytes: every byte of UTF-8 except those that continue a letter.
 long LetterCount(std::string_view text) {
   return std::count_if(text.begin(), text.end(),
                        [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; });
 }
 
-// The plot window if it is open, the panel of a split view, else the surface. The captions and not
-// the flags tell of a split view, so the surface is taken while D/L Str is on, though it is hidden.
+// The plot window if it is open, the panel of a split view, else the surface. The captions, not the
+// flags, say whether the view is split, so the surface is taken while D/L Str is on, though it is
+// hidden.
 Control& PictureOnScreen(Orvane_Desk& desk, bool plot_counts) {
   if (plot_counts && desk.plot.Visible) {
     desk.plot.BringToFront();

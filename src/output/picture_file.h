@@ -14,7 +14,7 @@ struct PictureFormat {
 };
 
 // One picture, or with `recording` one more frame of the animation. Only names of one to three
-// letters are written; a longer one is refused in silence, with its suffix or without.
+// letters are written; a longer one is refused in silence, with or without a suffix.
 void WritePicture(Orvane_Desk& desk, const PictureFormat& format, const std::string& name,
                   bool recording);
 

@@ -6,12 +6,12 @@
 namespace orvane {
 namespace {
 
-// Of the map's zones and marks.
+// The colours of the map's zones and marks.
 constexpr std::array kMapInks = {Rgb(254, 143, 149), Rgb(255, 117, 117), Rgb(253, 41, 79),
                                  Rgb(253, 71, 95)};
 
 // Steps through the dark shades of the five background pictures, one after the other. The cube has
-// none between black and a fifth, and made bright discs and bars of them.
+// none between black and a fifth of full brightness, and turned them into bright discs and bars.
 // clang-format off
 constexpr std::array kDarkShades = {
     Rgb(21, 27, 33), Rgb(17, 22, 27), Rgb(13, 17, 21), Rgb(8, 11, 15), Rgb(4, 6, 9),
@@ -23,14 +23,14 @@ constexpr std::array kDarkShades = {
 // clang-format on
 
 // The cube has six steps of red and of green, and five of blue, which the eye tells apart least;
-// greys have their six steps all the same.
+// greys still have six steps.
 consteval GifPalette MakePalette() {
   GifPalette palette;
   palette.Add(kPalette0);
   for (const ElementRow& row : kElements) palette.Add(row.Ink);
   for (const Swatch& swatch : kSwatches) palette.Add(swatch.Face);
   for (const Colour colour : {kPalette3, kPalette7, kPalette14, kPalette15}) palette.Add(colour);
-  // Grounds of the plot's areas, and of the panel that holds a pair of views.
+  // Backgrounds of the plot's areas, and of the panel that holds a pair of views.
   for (const Colour colour : {Rgb(249, 137, 121), Rgb(255, 159, 159), Rgb(255, 206, 206),
                               Rgb(34, 48, 59), Rgb(58, 75, 88)}) {
     palette.Add(colour);

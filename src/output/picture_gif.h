@@ -13,11 +13,11 @@ const GifPalette& PicturePalette();
 
 FileBytes GifOf(const Bitmap& picture);
 
-// An animation that loops for ever, so far of one frame.
+// An animation that loops for ever, with one frame so far.
 FileBytes AnimationOf(const Bitmap& first);
 
-// The animation and one frame more. Nothing when the bytes are no GIF in our palette, or one that
-// is cut short.
+// The animation with one more frame. Nothing when the bytes are not a GIF in our palette, or one
+// that is cut short.
 std::optional<FileBytes> WithOneMoreFrame(const FileBytes& animation, const Bitmap& next);
 
 }  // namespace orvane

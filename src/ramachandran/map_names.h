@@ -1,5 +1,5 @@
-// Names on the map that come while the pointer is on their mark. A region is pixels of one area,
-// not angles; both ends of each range count.
+// Names on the map that show while the pointer is on their mark. A region is given in pixels of one
+// area, not in angles; both ends of each range belong to it.
 #pragma once
 
 #include <span>
@@ -33,7 +33,7 @@ struct MapRule {
 };
 std::span<const MapRule> MapRules();
 
-// The pointer is over that area, at a pixel of it.
+// The pointer is over that area, at that pixel of it.
 void ShowMapNamesAt(PlotWindow& plot, int area, float x, float y);
 void HideMapName(PlotWindow& plot, MapName name);
 

@@ -9,7 +9,7 @@
 namespace orvane {
 namespace {
 
-constexpr int kMapSide = 140;  // pixels; the file is a short head and 3 bytes for each
+constexpr int kMapSide = 140;  // pixels; the file is a short header and 3 bytes for each
 
 std::shared_ptr<const Bitmap> Decode(std::span<const unsigned char> file) {
   constexpr std::size_t kPixels = std::size_t{kMapSide} * kMapSide;

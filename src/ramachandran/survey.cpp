@@ -72,7 +72,7 @@ void PlotRow(Orvane_Desk& desk, int row) {
 }  // namespace
 
 bool IsSurveyed(const Molecule& molecule, int atom) {
-  return ShortName(molecule.AtomName[atom]) == "CA" && atom > 4;  // passes the first residue
+  return ShortName(molecule.AtomName[atom]) == "CA" && atom > 4;  // skips the first residue
 }
 
 void TorsionSurvey(Orvane_Desk& desk) {

@@ -18,7 +18,7 @@ void AssembleStockTexts(Catalogue& fields) {
   fields.TextAlfa = stock::TextAlfa;
   fields.TextAlfb = stock::TextAlfb;
   fields.TextBeta = stock::TextBeta;
-  // The last residue twice, on one spot: the text is then as long as the helix's.
+  // The last residue is there twice, in one place: the text is then as long as the helix's.
   fields.TextBetb = stock::TextBetbResidues1To4;
   fields.TextBetb += stock::TextBetbResidue5;
   fields.TextBetb += stock::TextBetbResidue5;

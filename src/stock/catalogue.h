@@ -5,10 +5,10 @@
 
 namespace orvane {
 
-// Once at start: the texts that are compared with MolText later, and TitlePrefix.
+// Called once at start: sets the texts that are compared with MolText later, and TitlePrefix.
 void AssembleStockTexts(Catalogue& fields);
 
-// Once at start, in this order.
+// Called once at start, in this order.
 void FillAminoList(Orvane_Desk& desk);
 void FillProteinList(Orvane_Desk& desk);
 void FillNucleotideList(Orvane_Desk& desk);

@@ -9,7 +9,7 @@
 
 namespace orvane::catalogue {
 
-// A row begins with its key; the rest, from a column of the list's own on, goes into the title.
+// A row begins with its key; the rest, from a column that depends on the list, goes into the title.
 // clang-format off
 inline constexpr auto kAminoRows = std::to_array<std::string_view>({
     "Gen General Amino Acid Conformation",
@@ -69,7 +69,7 @@ inline constexpr auto kDnaRows = std::to_array<std::string_view>({
     "DNA3 Double stranded DNA",
 });
 
-// What a selection makes of a menu entry; AsWas leaves it as the selection before left it.
+// What a selection does to a menu entry; AsWas leaves it as the last selection left it.
 enum class Entry { AsWas, No, Yes };
 
 struct EntryStates {

@@ -36,9 +36,9 @@ void TurnAboutZ(Point& p, double t) {
   p.Y = x * std::sin(t) + y * std::cos(t);
 }
 
-// The references in the frame of the placement: the angle point at the origin and the bonded point
-// on the z axis, above or below it, since an arctangent of a quotient knows no quadrant. The
-// torsion point's azimuth is PlaceGamma, or that turned by half a circle.
+// Turns the references into the frame of the placement: the angle point lies at the origin and the
+// bonded point on the z axis, above or below it, since an arctangent of a quotient knows no
+// quadrant. The torsion point's azimuth is PlaceGamma, or half a circle from it.
 void TurnReferencesIntoFrame(Generator& g) {
   g.PlaceOrigin = g.RefAngle;
   g.RefAngle = Minus(g.RefAngle, g.PlaceOrigin);
@@ -77,9 +77,9 @@ std::string CoordinateText(double value, std::size_t width) {
   return Com2Pnt(SingleText(value)).substr(0, width);
 }
 
-// The blank in front closes the record before, whose own is missing. Every generated atom is number
-// 13 of residue GLY 1, as the frame's own atoms are of GLY 1. A z below 0 takes a character more,
-// which would push all later records out of place; no atom on the frame has one.
+// The leading blank closes the record before, which lacks its own. Every generated atom has number
+// 13 and residue GLY 1, which is also the residue of the frame's own atoms. A z below 0 takes one
+// more character, which would push all later records out of place; no atom on the frame has one.
 void AppendRecord(Orvane_Desk& desk, std::string_view name) {
   const Point& atom = desk.generator.NewAtom;
   std::string& text = desk.molecule.MolText;
@@ -102,7 +102,7 @@ void Remember(Generator& g, std::string_view name, const Point& at) {
   g.Placed.push_back({name, at});
 }
 
-// The origin for what is not placed yet; no row of the table refers to such an atom.
+// The origin for an atom that is not placed yet; no row of the table refers to one.
 Point PositionOf(const Generator& g, std::string_view name) {
   for (const PlacedAtom& atom : g.Placed) {
     if (atom.Name == name) return atom.At;
@@ -110,8 +110,7 @@ Point PositionOf(const Generator& g, std::string_view name) {
   return {};
 }
 
-// The atoms of the frame that others hang on, by the two-character cut of their names. Its O2 takes
-// no part.
+// The atoms of the frame from which others are placed, by their short names. Its O2 takes no part.
 struct FrameAtom {
   std::string_view Cut, Name;
 };

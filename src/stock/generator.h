@@ -13,7 +13,7 @@ namespace orvane {
 // The rows of the residue table for that key ("TRP"), in order of placement.
 std::vector<Placement> PlacementsOf(std::string_view key);
 
-// Places those rows on the frame that is loaded. An empty key changes nothing.
+// Places the atoms of those rows on the frame that is loaded. An empty key changes nothing.
 void GenerateResidue(Orvane_Desk& desk, std::string_view key);
 
 // Computes one atom from RefBonded, RefAngle and RefTorsion, which it overwrites, into NewAtom;

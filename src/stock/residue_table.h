@@ -1,4 +1,5 @@
-// How each amino acid is built on the frame N, CA, C, O: one row an atom, by internal coordinates.
+// How each amino acid is built on the frame N, CA, C, O: one row for each atom, in internal
+// coordinates.
 #pragma once
 
 #include <array>
@@ -6,12 +7,12 @@
 
 namespace orvane {
 
-// The new atom stands `Length` away from BondedTo. `Angle` is laid off from the axis AngleRef -
+// The new atom stands `Length` away from BondedTo. `Angle` is measured from the axis AngleRef -
 // BondedTo and `Torsion` about that axis from the side of TorsionRef, both by the rule of
 // PlaceAtom, which knows no quadrants: an angle above 180 or below 0 puts the atom on the other
-// side of the axis. So the numbers hold with that rule only.
+// side of the axis. So the numbers hold only with that rule.
 struct Placement {
-  std::string_view Residue;  // for which it is placed; in the common rows the one left out
+  std::string_view Residue;  // the one it belongs to; in the common rows the one left out
   std::string_view Atom, BondedTo, AngleRef, TorsionRef;
   double Torsion, Angle;  // degrees
   double Length;          // Angstrom
@@ -19,8 +20,8 @@ struct Placement {
 
 // clang-format off
 
-// Of every residue but the one named, in this order. The ring of proline closes on N, which keeps
-// two hydrogens; glycine has no CB.
+// Atoms of every residue but the one named, in this order. The ring of proline closes on N, which
+// keeps two hydrogens; glycine has no CB.
 inline constexpr auto kCommonPlacements = std::to_array<Placement>({
 // all but  atom   bonded angle  torsion
     {"PRO", "H2",  "N",   "CA",  "C",   -179.98,  289,     1},
@@ -30,9 +31,10 @@ inline constexpr auto kCommonPlacements = std::to_array<Placement>({
     {"GLY", "CB",  "CA",  "C",   "O",    295.04,   69.98,  1.5},
 });
 
-// Of one residue each, in order of placement. The second atom of a branch or ring may hang on its
-// sibling across it, at a distance that is no bond's: CG2 of THR, VAL and ILE, CD2 of TYR, PHE, TRP
-// and HIS. Along the long chains the references stay at CB and CA while the bonded atom moves on.
+// Atoms of one residue each, in order of placement. The second atom of a branch or ring may be
+// placed from its sibling across it, at a distance that is no bond length: CG2 of THR, VAL and ILE,
+// CD2 of TYR, PHE, TRP and HIS. Along the long chains the references stay at CB and CA while the
+// bonded atom moves on.
 inline constexpr auto kResiduePlacements = std::to_array<Placement>({
 // residue  atom   bonded angle  torsion torsion  angle    length
     {"GLY", "H5",  "CA",  "C",   "O",    315,      69.98,  1},

@@ -1,5 +1,5 @@
 // The constant molecule texts: packed atom records of 55 characters, the last without its closing
-// blank except where told. Written from tables by tools/stock_maker.
+// blank except where noted. Written from tables by tools/stock_maker.
 #pragma once
 
 #include <string_view>
@@ -11,14 +11,14 @@ extern const std::string_view TextGeneral;
 extern const std::string_view TextFrame;
 extern const std::string_view TextDipeptide;
 
-// Regular chains. In Alfa and Beta one atom R stands for a whole side chain, Alfb is polyalanine
+// Regular chains. In Alfa and Beta one atom R stands for a whole side chain; Alfb is polyalanine
 // with its hydrogens.
 extern const std::string_view TextAlfa;
 extern const std::string_view TextAlfb;
 extern const std::string_view TextBeta;
 
 // The pieces of the polyalanine strand, each with all its closing blanks. The text is the first
-// piece and then the second one twice: its last residue lies on itself.
+// piece and then the second one twice: its last residue is there twice, in one place.
 extern const std::string_view TextBetbResidues1To4;  // 40 records
 extern const std::string_view TextBetbResidue5;      // 10 records
 
@@ -44,8 +44,8 @@ extern const std::string_view TextBaseT;
 extern const std::string_view TextNucleosideT;
 extern const std::string_view TextNucleotideT;
 
-// The two strands of the double strand, which is the first and then the second; so the first ends
-// in its closing blank.
+// The two strands of the double strand. Its text is the first and then the second, so the first has
+// its closing blank.
 extern const std::string_view TextS1Dna;
 extern const std::string_view TextS2Dna;
 
