@@ -24,7 +24,7 @@ void SetPlain(Orvane_Desk& desk, Colour colour) {
   RepaintAll(desk);
 }
 
-// One channel as it was typed. Above 255 is as bright as it gets.
+// One channel as it was typed. Above 255 counts as 255.
 int Channel(const TextBox& box) {
   const int value = RoundedInt16(box.Text.Get());
   if (value < 0) FailConversion(box.Text.Get());

@@ -1,6 +1,6 @@
 // The four bars beside the picture. A scroll event, while the thumb is held, runs the step alone,
-// with a structure or without. A change event is a command like others: it closes the panels, asks
-// for a structure, and sees to the composed views.
+// with a structure or without. A change event is a command like any other: it closes the panels,
+// needs a structure, and refreshes the composed views.
 #pragma once
 
 #include "desk/orvane_desk.h"

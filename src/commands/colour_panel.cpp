@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kElementSwatch = 0;
 
-// The two differ in wording and full stop, each as it is known.
+// The two differ in wording and in the full stop, each as users know it.
 constexpr std::string_view kIsBackground =
     "This is already the background colour \n\nChoose a different colour";
 constexpr std::string_view kIsInUse =
@@ -35,8 +35,8 @@ void ColourLabels(Orvane_Desk& desk, int index) {
   RefreshTail(desk);
 }
 
-// PenColour takes the first swatch's own colour, too: it is what a trace shows later. A ribbon that
-// is kept in mind is painted first and wiped by the atoms.
+// PenColour takes the first swatch's own colour as well: a trace shows it later. A ribbon whose
+// flag is still set is painted first, and the atoms wipe it.
 void ColourMolecule(Orvane_Desk& desk, int index) {
   if (Refused(desk, index)) return;
   Drawing& drawing = desk.drawing;
@@ -55,7 +55,7 @@ void ColourMolecule(Orvane_Desk& desk, int index) {
     }
   }
   RefreshTail(desk);
-  // Behind the compositions, which so do not hold it.
+  // After the compositions, so they do not show it.
   if (drawing.PeptideOn == 1 || drawing.PlanesOnly == 1) PaintPlanes(desk);
 }
 
@@ -67,7 +67,7 @@ void ColourPlanes(Orvane_Desk& desk, int index) {
   RefreshTail(desk);
 }
 
-// The colours of molecule and planes count when nothing is shown in them, too.
+// The colours of molecule and planes count even when nothing is shown in them.
 void ColourBackground(Orvane_Desk& desk, int index) {
   Colours& colours = desk.colours;
   const Colour face = FaceOf(desk, index);

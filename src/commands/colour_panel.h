@@ -8,7 +8,7 @@ namespace orvane {
 // What the panel is open for.
 inline constexpr int kLabelTarget = 0, kMoleculeTarget = 1, kPlaneTarget = 2, kBackgroundTarget = 3;
 
-// Refuses, with a message, a swatch of the colour that the background has. Leaves the answer in
+// Refuses, with a message, a swatch that has the colour of the background. Leaves the answer in
 // ColourRefused.
 void SwatchClash(Orvane_Desk& desk, int index);
 
@@ -16,7 +16,7 @@ void SwatchClash(Orvane_Desk& desk, int index);
 void ApplySwatch(Orvane_Desk& desk, int index);
 
 // A swatch acts when a button goes down on it, any button; the click that follows closes the panel,
-// also when the colour was refused.
+// even when the colour was refused.
 void P_Clr_MouseDown(Orvane_Desk& desk, const Event& event);
 void P_Clr_Click(Orvane_Desk& desk);
 

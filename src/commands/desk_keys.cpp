@@ -10,7 +10,7 @@
 namespace orvane {
 namespace {
 
-// As a key on the control itself: a press and a click in its middle.
+// Acts as a key on the control itself: a press and a click in its middle.
 void Push(Orvane_Desk& desk, Control& control) {
   const Place at = control.At;
   const float x = static_cast<float>(at.Width) / (2 * TwipsPerPixel);
@@ -30,7 +30,7 @@ void PushOne(Orvane_Desk& desk) {
   Push(desk, (desk.main.*kArray)[kIndex]);
 }
 
-// As an arrow of the bar, or as its page area.
+// Acts as an arrow of the bar, or as its page area.
 template <ScrollBar MainWindow::*kBar, int kSteps>
 void Step(Orvane_Desk& desk) {
   ScrollBar& bar = desk.main.*kBar;

@@ -1,5 +1,5 @@
-// The keys of the desk: each works one control or the walk over the atoms, and through the same
-// events as a pointer. The sheet behind F1 is made of this table.
+// The keys of the desk: each works one control or the walk over the atoms, through the same events
+// as a pointer. The sheet behind F1 is made of this table.
 #pragma once
 
 #include <span>
@@ -11,7 +11,7 @@ namespace orvane {
 
 // Where the keyboard has to be for a key to work.
 enum class KeyPlace {
-  Picture,  // on the picture, or on the pair of views that stands in its place
+  Picture,  // on the picture, or on the pair of views that takes its place
   Desk,     // anywhere in the main window
   Map,      // in the plot window
 };

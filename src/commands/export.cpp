@@ -6,7 +6,7 @@
 namespace orvane {
 namespace {
 
-// The hourglass until the end of the command, also when the save fails.
+// Shows the hourglass until the end of the command, even when the save fails.
 class Hourglass {
  public:
   explicit Hourglass(MainWindow& window) : window_(window) {

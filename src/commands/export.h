@@ -1,5 +1,5 @@
-// Picture files: the three save commands, and the click on the pair of views. They share one shape;
-// what is written depends on what is on the screen.
+// Picture files: the three save commands, and the click on the pair of views. They work alike; what
+// is written depends on what is on the screen.
 #pragma once
 
 #include "desk/orvane_desk.h"
@@ -12,11 +12,11 @@ void S_JPG_Click(Orvane_Desk& desk);  // ends a recording's state first
 // frames reuse it.
 void S_Gif_Click(Orvane_Desk& desk);
 
-// Gives the pointer back and tells that a name was not taken. Reached from nowhere: a save command
-// would ask for it only once its work is done, so a save that fails ends in its own failure.
+// Restores the pointer and says that a name was not accepted. Nothing calls it: a save command
+// would do so only after its work is done, so a save that fails ends in its own failure.
 void ReportRefusedName(Orvane_Desk& desk, std::string_view name);
 
-// Writes the pair of views as test.gif, unasked; each click over the same file.
+// Writes the pair of views as test.gif without asking; each click overwrites the same file.
 void P_Sterio_Click(Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-// Hydrogen bonds on or off. The list itself is made by a load.
+// Hydrogen bonds on or off. A load makes the list itself.
 #pragma once
 
 #include "desk/orvane_desk.h"

@@ -13,8 +13,8 @@ void Author_Get_in_Click(Orvane_Desk& desk);   // back to where it was opened fr
 
 void WatN_Click(Orvane_Desk& desk);
 void Cprt_Click(Orvane_Desk& desk);
-// Closed by its frame: no window may be left behind that nobody can see. Before the desk was ever
-// reached, closing the way to it ends the program; later the overview goes back like Get_in.
+// Closed by its frame: no hidden window may be left as the only one. Until the desk has been
+// reached, closing the way to it ends the program; later the overview goes back as Get_in does.
 void Content_Close(Orvane_Desk& desk);
 void EndProgram(Orvane_Desk& desk);
 

@@ -10,7 +10,7 @@
 namespace orvane {
 namespace {
 
-// What every window of the kind answers to, with nothing of the desk behind it.
+// Keys that any such window answers to, whatever the desk does.
 const SheetSection kEveryControl = {"Everywhere",
                                     {
                                         {"Tab", "Go to the next control; Shift+Tab back", {}},
@@ -35,7 +35,7 @@ const std::array<std::string, 4> kDepth = {
     "maximise "
     "the window, and press 3 on the picture for thicker lines."};
 
-// A sign that is easily overlooked, and that a screen reader may leave out.
+// The word for a sign that is easily overlooked and that a screen reader may leave out.
 std::string InWords(std::string_view key) {
   return key == "+"   ? "Plus"
          : key == "=" ? "Equals"
@@ -78,7 +78,7 @@ int Apart(Colour a, Colour b) {
   return red * red + green * green + blue * blue;
 }
 
-// The nearest that has a name.
+// The nearest colour that has a name.
 std::string ColourWord(Colour colour) {
   return std::string(std::ranges::min_element(kColourNames, {}, [&](const NamedColour& named) {
                        return Apart(named.Ink, colour);

@@ -1,5 +1,5 @@
-// The sheet behind F1: the keys, what the colours stand for, how a pair of views is looked at.
-// It is made of the tables that the program works by.
+// The sheet behind F1: the keys, what the colours stand for, and how to look at a pair of views. It
+// is made from the tables that the program works by.
 #pragma once
 
 #include <optional>
@@ -26,7 +26,7 @@ inline constexpr const char* kSheetTitle = "Keys and colours";
 
 std::vector<SheetSection> KeySheet();
 
-// The whole sheet as plain text, a line a row: what a screen reader reads.
+// The whole sheet as plain text, one line for each row: what a screen reader reads.
 std::string KeySheetText();
 
 }  // namespace orvane

@@ -22,8 +22,8 @@ struct ListKind {
   List MainWindow::*Rows;
   std::string Catalogue::*Key;
   int KeyWidth;
-  int TitleFrom;    // column of the row from which the title reads on
-  bool HasIsomers;  // whether the D/L view is open to these structures
+  int TitleFrom;    // column of the row where the title begins
+  bool HasIsomers;  // whether these structures may have the D/L view
   int NucleicMode;
   EntryStates Entries;
   std::span<const StockRow> Stock;
@@ -41,7 +41,7 @@ constexpr ListKind kDna     = {&MainWindow::DNA_Lst, &Catalogue::DnaKey,    5,  
                                kNoEntries, kDnaStock};
 // clang-format on
 
-// The system's own capitals, whatever the locale.
+// Plain capitals, whatever the locale.
 std::string InCapitals(std::string text) {
   for (char& letter : text) {
     if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
@@ -61,7 +61,7 @@ void SetEntries(MainWindow& main, const EntryStates& states) {
   Set(main.RCDP, states.RCDP);
 }
 
-// What comes before the row is looked at.
+// What comes before the row is read.
 void OpenSelection(Orvane_Desk& desk, const ListKind& kind) {
   desk.main.Bt3_Isomers.Enabled = kind.HasIsomers;
   HidePanels(desk.main);
@@ -89,7 +89,7 @@ bool TakeStockText(Orvane_Desk& desk, const ListKind& kind, std::string_view key
   return true;
 }
 
-// The key as it stands in the row is kept; what it is compared by comes back.
+// Keeps the key as it stands in the row, and returns it in capitals for the comparison.
 std::string TakeKey(Orvane_Desk& desk, const ListKind& kind, const std::string& row) {
   desk.stock.*kind.Key = Mid(row, 1, kind.KeyWidth);
   return InCapitals(desk.stock.*kind.Key);

@@ -7,7 +7,7 @@ namespace orvane {
 
 void Bt_Blt_AA_Click(Orvane_Desk& desk) {
   EndWithTheLastStructure(desk);
-  desk.main.Picture1.ResetSurface();  // sets MoleculeReady, which AwaitTheNext takes back
+  desk.main.Picture1.ResetSurface();  // sets MoleculeReady, which AwaitTheNext clears again
   AwaitTheNext(desk);
 }
 

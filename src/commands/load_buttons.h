@@ -5,12 +5,12 @@
 
 namespace orvane {
 
-// "Get  Molecule": the start of a selection, with an empty surface. The atoms stay in the store,
-// but every command beeps until the next selection.
+// "Get Molecule": the start of a selection, with an empty surface. The atoms stay in the store, but
+// every command beeps until the next selection.
 void Bt_Blt_AA_Click(Orvane_Desk& desk);
 
-// "Load AA": the last text once more, with the view as it is. The button stands at the right rim of
-// the window and every selection hides it, so that hardly anybody meets it.
+// "Load AA": loads the last text again, with the view as it is. The button stands past the right
+// edge of the window and every selection hides it, so hardly anybody meets it.
 void Bt_M_Ld_Click(Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -11,7 +11,7 @@
 namespace orvane {
 namespace {
 
-// MeasureOn is 1 for the length of a measure, also of one that fails.
+// MeasureOn is 1 for the length of a measurement, even of one that fails.
 class WhileMeasuring {
  public:
   explicit WhileMeasuring(Measure& measure) : measure_(measure) { measure_.MeasureOn = 1; }

@@ -1,4 +1,4 @@
-// Distance, Angle and Torsion: what stands in the points is measured, whatever was picked since.
+// Distance, Angle and Torsion: they measure what the points hold, whatever was picked since.
 #pragma once
 
 #include "desk/orvane_desk.h"
@@ -6,7 +6,7 @@
 namespace orvane {
 
 // Each turns the labels off, repaints, which wipes the tags of the picks, writes the readout and
-// ends the pick cycle. A turn between the picks and the button has moved PointA: nothing checks
+// ends the pick cycle. A turn between the picks and the button has moved PointA; nothing checks for
 // that.
 void Bt3_Dts_Click(Orvane_Desk& desk);
 void Bt3_Ang_Click(Orvane_Desk& desk);

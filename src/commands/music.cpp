@@ -41,7 +41,7 @@ int PlayWave(Orvane_Desk& desk) {
 }
 
 void ReportSoundError(Orvane_Desk& desk, int error_number) {
-  // Kept as it has always stood, letter for letter.
+  // Kept as it has always been, letter for letter.
   desk.platform.WarningBox("ÎØÃ ÛíÑ ãÚÑæÝ (" + std::to_string(error_number) + ").");
 }
 

@@ -1,4 +1,4 @@
-// The music commands. Nothing in the menu reaches them in this version; they stand complete.
+// The music commands. No menu reaches them in this version; they are complete.
 #pragma once
 
 #include <string_view>
@@ -18,9 +18,9 @@ void ReportSoundError(Orvane_Desk& desk, int error_number);
 
 void PMSC_Click(Orvane_Desk& desk, int tune);  // 1 to 9
 void OpMfL_Click(Orvane_Desk& desk);           // opens the music chooser
-void StMsc_Click(Orvane_Desk& desk);           // stop and close, whether anything plays or not
-void Drive1_Change(Orvane_Desk& desk);         // its folders come into Dir1
-void Dir1_Change(Orvane_Desk& desk);           // its sound files come into File1
+void StMsc_Click(Orvane_Desk& desk);           // stops and closes, whether anything plays or not
+void Drive1_Change(Orvane_Desk& desk);         // puts its folders into Dir1
+void Dir1_Change(Orvane_Desk& desk);           // puts its sound files into File1
 void File1_DblClick(Orvane_Desk& desk);        // plays the chosen file and closes the chooser
 
 }  // namespace orvane

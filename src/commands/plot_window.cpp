@@ -7,7 +7,7 @@
 namespace orvane {
 namespace {
 
-// Captions of the frame by structure; nothing is set for any other.
+// Captions of the frame by structure; for any other structure nothing is set.
 struct PlotCaption {
   std::string Catalogue::*Text;
   std::string_view Caption;

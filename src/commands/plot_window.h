@@ -5,11 +5,11 @@
 
 namespace orvane {
 
-// Opens the plot window over fresh pictures and surveys what is in the store, loaded or not. The
-// plot window is the subject of printing from here on.
+// Opens the plot window with fresh pictures and surveys what is in the store, loaded or not. From
+// here on the plot window is what is printed.
 void ShowRamachandran(Orvane_Desk& desk);
 
-// Closed by its frame the plot window only hides, and can be shown again.
+// Closed by its frame, the plot window only hides and can be shown again.
 void Ramachandran_Close(Orvane_Desk& desk);
 
 void Area_MouseMove(Orvane_Desk& desk, const Event& event);

@@ -11,7 +11,7 @@ namespace {
 constexpr Look kPressedTag{.Bevel = 1, .TextStyle = 4};
 constexpr Look kRaisedTag{.Bevel = 2, .TextStyle = 2};
 
-// A full turn an event, for a pointer as many surface widths away from the press.
+// One event makes a full turn when the pointer is this many surface widths away from the press.
 constexpr int kWidthsToFullTurn = 25;
 
 double DragAngle(double distance, int surface_side) {

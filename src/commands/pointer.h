@@ -9,7 +9,7 @@ namespace orvane {
 void Picture1_MouseDown(Orvane_Desk& desk, const Event& event);
 
 // The right button alone turns, about x and then about y, painting twice. The angle grows with the
-// distance from the press, which does not move along: a pointer held far out keeps turning fast.
+// distance from the press, whose place stays: a pointer held far out keeps turning fast.
 void Picture1_MouseMove(Orvane_Desk& desk, const Event& event);
 
 // Gives the turn bar its axis back.

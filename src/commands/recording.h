@@ -1,4 +1,4 @@
-// The animated recording rides on the spin: every second tick of the timer writes one frame.
+// The animated recording uses the spin: every second tick of the timer writes one frame.
 #pragma once
 
 #include "desk/orvane_desk.h"
@@ -7,7 +7,7 @@ namespace orvane {
 
 inline constexpr int kRecordingTicks = 35;  // 18 frames, at ticks 0, 2, ... 34
 
-// Starts a recording and clicks P_Auto_Rotate. Where the spin was on already, that click stops it.
+// Starts a recording and clicks P_Auto_Rotate. If the spin was already on, that click stops it.
 void S_AnGif_Click(Orvane_Desk& desk);
 
 // The recording's part of a tick, before the spin step: a frame on even ticks, the end at the last.

@@ -5,8 +5,8 @@
 
 namespace orvane {
 
-// Pose, sizes, spin and back colour. The drawing mode, labels, colours, hydrogen bonds, the axis
-// and the pick cycle stay, BackgroundIndex too; Timer1 goes on and finds AutoRotateOn at 0.
+// Resets pose, sizes, spin and back colour. The drawing mode, labels, colours, hydrogen bonds, the
+// axis, the pick cycle and BackgroundIndex stay. Timer1 goes on and finds AutoRotateOn at 0.
 void Bt3_Reset_Click(Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -5,7 +5,7 @@
 
 namespace orvane {
 
-// Only the left button steps. The picture is painted again, also when nothing has changed.
+// Only the left button steps. The picture is painted again even when nothing has changed.
 void Sz_Balls_MouseDown(Orvane_Desk& desk, const Event& event);
 
 }  // namespace orvane

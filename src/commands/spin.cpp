@@ -14,7 +14,7 @@ void P_Auto_Rotate_Click(Orvane_Desk& desk) {
   if (desk.view.AutoRotateOn == 1) return StopSpin(desk);
 
   StartSpin(desk);
-  // The change event gives SpinNow a value; a recording would else spin by 0 degrees.
+  // The change event gives SpinNow a value; otherwise a recording would spin by 0 degrees.
   if (desk.main.VScroll1.Value == 1 && desk.recording.GifRecording != 0) {
     desk.main.VScroll1.SetValue(2);
   }

@@ -38,7 +38,7 @@ void ShowForms(Orvane_Desk& desk, bool shown) {
   desk.main.L_Form.Visible = shown;
 }
 
-// The title without its prefix, behind the program's own name.
+// The title without its prefix, after the program's own name.
 std::string NameLine(const Orvane_Desk& desk) {
   const std::string& title = desk.main.Caption;
   const std::size_t prefix = std::min(desk.stock.TitlePrefix.size(), title.size());
@@ -107,7 +107,7 @@ void SwitchIsomersOff(Orvane_Desk& desk) {
 void Bt3_Sterio_Click(Orvane_Desk& desk) {
   HidePanels(desk.main);
   PaintAtomFamily(desk);
-  desk.molecule.MoleculeReady = 1;  // this command opens the others on its own
+  desk.molecule.MoleculeReady = 1;  // this command alone makes the others work
   desk.stereo.EnantiomerOn = 0;
   desk.stereo.EnantiomerPairOn = 0;
   if (desk.main.Bt3_Isomers.Caption == "D / L On") RestoreWidths(desk);
@@ -138,7 +138,7 @@ void Bt3_Isomers_Click(Orvane_Desk& desk) {
 }
 
 void Bt3_D_L_Str_Click(Orvane_Desk& desk) {
-  desk.drawing.BondWidth = 2;  // the width in force is not saved
+  desk.drawing.BondWidth = 2;  // the current width is not saved
   PaintAtomFamily(desk);
   desk.stereo.StereoOn = 0;
   desk.main.Bt3_Sterio.Caption = "Sterio Off";

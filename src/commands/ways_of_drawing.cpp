@@ -21,7 +21,7 @@ struct DrawCommand {
   std::optional<Tail> Composes;
 };
 
-// What an entry leaves alone it leaves on purpose: sticks keep a ribbon in mind, balls keep the
+// What an entry leaves alone is left on purpose: sticks keep the flag of a ribbon, balls keep the
 // width of the bonds, a cartoon keeps PlanesOnly and composes nothing.
 // clang-format off
 //                                needs  BondWidth BallsOn  Family Ribbon  Cartoon Peptide PlanesOnly

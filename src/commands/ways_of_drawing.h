@@ -1,13 +1,13 @@
-// In which way the structure is drawn: the entries of "Draw in" and "Peptide Bond", and the two
-// buttons that switch between ways.
+// How the structure is drawn: the entries of "Draw in" and "Peptide Bond", and the two buttons that
+// switch between ways.
 #pragma once
 
 #include "desk/orvane_desk.h"
 
 namespace orvane {
 
-// Each entry sets the mode fields of its row, paints, and composes what its row says. With no
-// structure the first three do nothing at all, not even a beep.
+// Each entry sets the mode fields of its row, paints, and composes what its row says. Without a
+// structure the first three do nothing at all; they do not even beep.
 void D_Wf_Click(Orvane_Desk& desk);
 void M_Stk_Click(Orvane_Desk& desk);
 void D_StB_Click(Orvane_Desk& desk);
@@ -17,11 +17,11 @@ void Cartn_Click(Orvane_Desk& desk);
 void OPB_Click(Orvane_Desk& desk);
 void PPB_SB_Click(Orvane_Desk& desk);
 
-// Wire frame or balls; the caption names what a click will give. Paints the atom family whatever
-// DrawFamily is, and leaves DrawFamily alone.
+// Wire frame or balls; the caption names what a click will show. Paints the atom family whatever
+// DrawFamily is, and does not change DrawFamily.
 void Bt_BlS_Click(Orvane_Desk& desk);
 
-// Atoms or trace; the caption tells the state. Leaves RibbonOn and CartoonOn alone, so that the
+// Atoms or trace; the caption says which is on. Leaves RibbonOn and CartoonOn alone, so that the
 // trace comes back as it was last drawn.
 void Bt_CA_Trace_Click(Orvane_Desk& desk);
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr float kStepsPerPixel = 16.0F;
 constexpr int kFrameSide = 360;                  // surface pixels
-constexpr Colour kDarkGround = Rgb(24, 35, 44);  // of the author window's head, too
+constexpr Colour kDarkGround = Rgb(24, 35, 44);  // also of the author window's head
 
 // Whole numbers in little-endian order, whatever the machine.
 class Writer {

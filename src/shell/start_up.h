@@ -1,4 +1,4 @@
-// How a desk begins.
+// Starts a desk.
 #pragma once
 
 #include <memory>
@@ -10,7 +10,7 @@ namespace orvane {
 // A desk whose controls are bound to their handlers and whose main window is loaded.
 std::unique_ptr<Orvane_Desk> StartDesk(Platform& outside);
 
-// The load of the main window: every start value of the desk, in order. Leaves the window hidden.
+// Loads the main window: sets every start value of the desk, in order. Leaves the window hidden.
 void Orvane_Desk_Load(Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-// One row: of every element of that control (an array without index), this event runs this handler.
+// One row: in every element of that control (an array without index), this event runs this handler.
 struct Wire {
   std::string_view Control;  // "X_Tag", "Content.Get_in"
   EventKind Kind;
@@ -18,7 +18,7 @@ struct Wire {
 
 std::span<const Wire> Wires();
 
-// Binds every row to its control; once, before anything happens at the desk.
+// Binds every row to its control. Called once, before anything happens on the desk.
 void WireControls(Orvane_Desk& desk);
 
 }  // namespace orvane
