@@ -57,10 +57,10 @@ constexpr auto kKeys = std::to_array<DeskKey>({
     {Desk, "Anywhere on the desk", "F6", "",     "Go to the picture", false, GoToThePicture},
     {Desk, "Anywhere on the desk", "Escape", "", "Close the floating panels", false, Push<&Main::Panel3D5>},
 
-    {Picture, "Turn", "Right", "Down",     "Turn on about the chosen axis", true, Step<&Main::VScroll1, 1>},
-    {Picture, "Turn", "Left", "Up",        "Turn back",                     true, Step<&Main::VScroll1, -1>},
-    {Picture, "Turn", "Page Down", "",     "Turn on, by a page of the bar", true, Page<&Main::VScroll1, 1>},
-    {Picture, "Turn", "Page Up", "",       "Turn back, by a page",          true, Page<&Main::VScroll1, -1>},
+    {Picture, "Turn", "Right", "Down",     "Turn forward about the chosen axis", true, Step<&Main::VScroll1, 1>},
+    {Picture, "Turn", "Left", "Up",        "Turn back",                          true, Step<&Main::VScroll1, -1>},
+    {Picture, "Turn", "Page Down", "",     "Turn forward, by a page of the bar", true, Page<&Main::VScroll1, 1>},
+    {Picture, "Turn", "Page Up", "",       "Turn back, by a page",               true, Page<&Main::VScroll1, -1>},
     {Picture, "Turn", "X", "",             "Turn about the X axis", false, PushOne<&Main::X_Tag, 0>},
     {Picture, "Turn", "Y", "",             "Turn about the Y axis", false, PushOne<&Main::X_Tag, 1>},
     {Picture, "Turn", "Z", "",             "Turn about the Z axis", false, PushOne<&Main::X_Tag, 2>},
@@ -77,7 +77,7 @@ constexpr auto kKeys = std::to_array<DeskKey>({
     {Picture, "Move and enlarge", "R", "",           "Go back to the start view", false, Push<&Main::Bt3_Reset>},
 
     {Picture, "Walk over the atoms", "N", "",          "Go to the next atom",        true, WalkToNext},
-    {Picture, "Walk over the atoms", "P", "",          "Go to the atom before",      true, WalkToPrevious},
+    {Picture, "Walk over the atoms", "P", "",          "Go to the previous atom",    true, WalkToPrevious},
     {Picture, "Walk over the atoms", "Home", "",       "Go to the first atom",       false, WalkToFirst},
     {Picture, "Walk over the atoms", "End", "",        "Go to the last atom",        false, WalkToLast},
     {Picture, "Walk over the atoms", "Space", "Enter", "Pick the atom in the ring",  false, PickWalked},
@@ -103,8 +103,8 @@ constexpr auto kKeys = std::to_array<DeskKey>({
     {Picture, "Views", "M", "",       "Show the left and the right form",   false, Push<&Main::Bt3_Isomers>},
     {Picture, "Views", "Shift+M", "", "Show both forms above a second pair", false, Push<&Main::Bt3_D_L_Str>},
 
-    {Map, "On the Ramachandran map", "Right", "Down", "Show the next name",   true, ShowNextMapName},
-    {Map, "On the Ramachandran map", "Left", "Up",    "Show the name before", true, ShowPreviousMapName},
+    {Map, "On the Ramachandran map", "Right", "Down", "Show the next name",     true, ShowNextMapName},
+    {Map, "On the Ramachandran map", "Left", "Up",    "Show the previous name", true, ShowPreviousMapName},
     {Map, "On the Ramachandran map", "Escape", "",    "Close the map", false,
      [](Orvane_Desk& desk) { CloseWindow(desk, desk.plot); }},
 });

@@ -14,7 +14,7 @@ namespace {
 const SheetSection kEveryControl = {"Everywhere",
                                     {
                                         {"Tab", "Go to the next control; Shift+Tab back", {}},
-                                        {"Space or Enter", "Click what has the ring", {}},
+                                        {"Space or Enter", "Click the control with the ring", {}},
                                         {"Arrows, Page keys", "Choose in a list, step a bar", {}},
                                         {"Alt and a letter", "Open the menu with that letter", {}},
                                         {"F1", "Show or close this sheet", {}},
@@ -24,16 +24,15 @@ const SheetSection kEveryControl = {"Everywhere",
 
 const std::array<std::string, 4> kDepth = {
     "A pair, parallel: look through the screen until the left eye has the left view and the right "
-    "eye the right one, and a third picture stands in the middle. The middles may not lie further "
-    "apart than your eyes, about 6 cm: not on a large screen.",
+    "eye the right one, and a third picture appears between them. The centres of the two views "
+    "must be no further apart than your eyes, about 6 cm, so a large screen does not work.",
     "A pair, crossed: look at a finger held before the screen until the left eye has the right "
     "view. This works at any size.",
     "Red and green glasses: the red lines are the right view of the pair, the green ones the left. "
-    "Each is seen through the glass of its own colour. Take off coloured backgrounds first.",
-    "Which way shows front and back as they are differs from structure to structure. If a helix of "
-    "right hand seems left, look the other way, or turn the glasses round. For a projector "
-    "maximise "
-    "the window, and press 3 on the picture for thicker lines."};
+    "Each is seen through the glass of its own colour. Remove coloured backgrounds first.",
+    "Which way shows front and back correctly differs from structure to structure. If a "
+    "right-handed helix looks left-handed, look the other way, or turn the glasses round. For a "
+    "projector, maximise the window, and press 3 on the picture for thicker lines."};
 
 // The word for a sign that is easily overlooked and that a screen reader may leave out.
 std::string InWords(std::string_view key) {

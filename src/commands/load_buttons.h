@@ -9,7 +9,7 @@ namespace orvane {
 // every command beeps until the next selection.
 void Bt_Blt_AA_Click(Orvane_Desk& desk);
 
-// "Load AA": loads the last text again, with the view as it is. The button stands past the right
+// "Load AA": loads the last text again, with the view as it is. The button stands at the right
 // edge of the window and every selection hides it, so hardly anybody meets it.
 void Bt_M_Ld_Click(Orvane_Desk& desk);
 

@@ -110,7 +110,7 @@ std::string WalkWords(const Orvane_Desk& desk) {
   if (!IsPickInForce(desk)) return words;
   const std::string order(kOrders[desk.walk.Order]);
   if (desk.walk.Taken == 1) return words + ", picked as the " + order;
-  return words + ", picked with " + std::to_string(desk.walk.Taken - 1) + " more so close; the " +
+  return words + ", picked with " + std::to_string(desk.walk.Taken - 1) + " more close by; the " +
          order + " pick is atom " + std::to_string(desk.walk.Picked);
 }
 

@@ -16,11 +16,11 @@ struct Reason {
   const char* Clause;
 };
 constexpr Reason kReasons[] = {
-    {ENOENT, "there is no such folder"},       {ENOTDIR, "there is no such folder"},
-    {EACCES, "you have no right to"},          {EPERM, "you have no right to"},
-    {EROFS, "nothing can be written there"},   {ENOSPC, "the disk is full"},
-    {EDQUOT, "your part of the disk is full"}, {EFBIG, "the file is too large"},
-    {EISDIR, "a folder has that name"},        {ENAMETOOLONG, "the name is too long"},
+    {ENOENT, "there is no such folder"},        {ENOTDIR, "there is no such folder"},
+    {EACCES, "you are not allowed to"},         {EPERM, "you are not allowed to"},
+    {EROFS, "nothing can be written there"},    {ENOSPC, "the disk is full"},
+    {EDQUOT, "your share of the disk is full"}, {EFBIG, "the file is too large"},
+    {EISDIR, "a folder has that name"},         {ENAMETOOLONG, "the name is too long"},
 };
 
 [[noreturn]] void Fail(const char* what, const std::string& path, int error) {

@@ -76,7 +76,7 @@ TEST(TheKeySheet, SaysHowToLookAtAPairAndARedGreenPicture) {
 
 TEST(TheKeySheet, IsPlainTextToo) {
   const std::string text = KeySheetText();
-  EXPECT_THAT(text, HasSubstr("\nTurn\nRight or Down: Turn on about the chosen axis\n"));
+  EXPECT_THAT(text, HasSubstr("\nTurn\nRight or Down: Turn forward about the chosen axis\n"));
   EXPECT_THAT(text, HasSubstr("\nOxygen: red\n"));
 }
 

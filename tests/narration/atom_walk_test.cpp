@@ -243,7 +243,7 @@ TEST_F(AtomWalkTest, TheWordsTellOfAtomsTooCloseAndOfOneOutside) {
   WalkToFirst(desk);
   PickWalked(desk);
   EXPECT_EQ(WalkWords(desk),
-            AtomWords(desk, 1) + ", picked with 1 more so close; the second pick is atom 2");
+            AtomWords(desk, 1) + ", picked with 1 more close by; the second pick is atom 2");
   WalkToLast(desk);
   EXPECT_EQ(WalkWords(desk), AtomWords(desk, 3) + ", outside the picture");
 }
