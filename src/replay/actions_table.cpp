@@ -12,7 +12,7 @@ bool Is(Control& control) {
 
 bool StandsOnTheScreen(Control& control) { return !Is<Timer>(control); }
 
-// Bars and lists are moved and chosen from, which is more than a click.
+// A bar is moved and a list is chosen from; both are more than a click.
 bool CanBeClicked(Control& control) {
   return StandsOnTheScreen(control) && !Is<ScrollBar>(control) && !Is<List>(control);
 }
@@ -22,7 +22,7 @@ Kind& As(const Arguments& given) {
   return dynamic_cast<Kind&>(*given.control);
 }
 
-// Short for the two clicks that lead from the start to the main window.
+// The two clicks that lead from the start to the main window.
 void Enter(Player& player, const Arguments& given) {
   Click(*player.desk, player.desk->front.Get_in, given.reach);
   Click(*player.desk, player.desk->content.Get_in, given.reach);

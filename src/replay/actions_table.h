@@ -1,4 +1,4 @@
-// The words of a script: what each action wants behind it and what it does at the desk.
+// The words of a script: what each action wants after it and what it does on the desk.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ namespace orvane {
 
 struct Player;
 
-// What stood behind an action's word.
+// What followed an action's word.
 struct Arguments {
   Reach reach = Reach::AsUser;
   Control* control = nullptr;
@@ -26,15 +26,15 @@ enum class Wants { Nothing, Whole, PointerButton, PointerState, Text, DumpName }
 
 struct Action {
   std::string_view Word;
-  bool (*Fits)(Control& control);  // whether a control is of the kind; nullptr: it names none
-  Wants What;                      // behind the control; a pointer also wants X and Y
+  bool (*Fits)(Control& control);  // whether it works on that control; nullptr: it names none
+  Wants What;                      // after the control; a pointer also wants X and Y
   void (*Play)(Player& player, const Arguments& given);
 };
 
 // nullptr when there is no action of that name.
 const Action* FindAction(std::string_view word);
 
-// Reads the rest of the line into `given`. Empty: it fits; else what does not.
+// Reads the rest of the line into `given`. Returns what does not fit, or nothing when all does.
 std::string ReadArguments(const Action& action, const Orvane_Desk& desk, ScriptLine& words,
                           Arguments& given);
 

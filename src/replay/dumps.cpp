@@ -29,7 +29,7 @@ void AppendElement(std::string& text, double value) { AppendNumber(text, value);
 void AppendElement(std::string& text, Int16 value) { AppendNumber(text, value); }
 void AppendElement(std::string& text, std::string_view value) { AppendText(text, value); }
 
-// Elements 1 to `count`. A count that failed to grow past its array's end stands one above it.
+// Elements 1 to `count`. A count that failed to grow past the end of its array is one above it.
 template <class Elements>
 void AppendFromOne(ObjectLine& line, std::string_view name, const Elements& elements, int count,
                    int last = kLastSlot) {

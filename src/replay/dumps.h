@@ -18,6 +18,6 @@ std::string DumpControls(const Orvane_Desk& desk);  // "controls": each control'
 std::string DumpAtoms(const Orvane_Desk& desk);     // "atoms": arrays from atom 1 to AtomCount
 std::string DumpBonds(const Orvane_Desk& desk);     // "bonds": both kinds of bond
 std::string DumpSurvey(const Orvane_Desk& desk);    // "survey": torsions, 1 to PhiCount
-std::string DumpReadout(const Orvane_Desk& desk);   // "readout": title, counts and result alone
+std::string DumpReadout(const Orvane_Desk& desk);   // "readout": only title, counts and result
 
 }  // namespace orvane

@@ -7,8 +7,8 @@
 namespace orvane {
 namespace {
 
-// The small windows show stored images, and so does every icon; all other image controls are given
-// what stood on the surface.
+// The small windows show stored images, and so does every icon; all other image controls get what
+// was on the surface.
 constexpr std::string_view kWindowsOfStoredImages[] = {"Orvane_Front", "Content", "Author_frm"};
 constexpr std::string_view kIcon = "OVN_Icon";
 

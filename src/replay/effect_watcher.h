@@ -1,5 +1,5 @@
-// Prints what becomes of the controls that a user would notice at once: windows that come and go,
-// and views handed to the image controls.
+// Prints the changes of controls that a user would notice at once: windows that come and go, and
+// views given to the image controls.
 #pragma once
 
 #include "controls/window.h"

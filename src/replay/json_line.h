@@ -6,22 +6,22 @@
 
 namespace orvane {
 
-inline constexpr int kDoubleDigits = 17;  // a 64-bit value is read back as it was
-inline constexpr int kSingleDigits = 9;   // a 32-bit value is read back as it was
+inline constexpr int kDoubleDigits = 17;  // enough to read a 64-bit value back as it was
+inline constexpr int kSingleDigits = 9;   // enough to read a 32-bit value back as it was
 
-// As "%.<digits>g" in the C locale, whatever locale the user has. What is no finite number, for
+// As "%.<digits>g" in the C locale, whatever locale the user has. A value that is not finite, for
 // which JSON has no word, is null.
 void AppendNumber(std::string& line, double value, int digits = kDoubleDigits);
-// In quotes, escaped. Bytes that are no UTF-8 become the replacement character.
+// In quotes, escaped. Bytes that are not UTF-8 become the replacement character.
 void AppendText(std::string& line, std::string_view text);
 
 std::string TextInQuotes(std::string_view text);
 
-// Builds {"name":value,...} in the order in which the names come.
+// Builds {"name":value,...} in the order in which the names are given.
 struct ObjectLine {
   std::string Text = "{";
 
-  // Puts the name down; the caller appends its value to what this returns.
+  // Writes the name; the caller appends its value to what this returns.
   std::string& Name(std::string_view name);
   void Number(std::string_view name, double value) { AppendNumber(Name(name), value); }
   void String(std::string_view name, std::string_view text) { AppendText(Name(name), text); }

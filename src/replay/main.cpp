@@ -1,4 +1,4 @@
-// orvane-replay: plays a script from standard input at a desk without a window, and prints what the
+// orvane-replay: plays a script from standard input on a desk without a window, and prints what the
 // program did.
 #include <iostream>
 #include <string_view>
@@ -11,7 +11,8 @@ int main(int argc, char** argv) {
     std::cerr << "usage: orvane-replay [--trace] < script\n";
     return 2;
   }
-  // The streams stay tied, so whoever feeds a script line by line reads the answer to each at once.
+  // The streams stay tied, so a caller that feeds a script line by line reads the answer to each at
+  // once.
   std::ios::sync_with_stdio(false);
   return orvane::PlayScript(std::cin, std::cout, std::cerr, trace);
 }

@@ -1,4 +1,4 @@
-// A desk under a script's hand.
+// A desk that a script works.
 #pragma once
 
 #include <istream>
@@ -18,7 +18,7 @@
 namespace orvane {
 
 struct Player {
-  // Starts a desk; `trace` prints the calls on the drawing surface, too.
+  // Starts a desk; `trace` also prints the calls on the drawing surface.
   explicit Player(std::ostream& stream, bool trace = false);
 
   const bool IsTracing;
@@ -30,14 +30,16 @@ struct Player {
   std::unique_ptr<Orvane_Desk> desk;
 };
 
-// Ends the desk and starts another; nothing of that is printed. What waits in the platform goes,
-// too.
+// Ends the desk and starts another, and prints nothing of that. What waits in the platform is
+// dropped as well.
 void StartDesk(Player& player);
 
-// Plays one line. Empty: done; else the line is no action, for the reason that is returned.
+// Plays one line. Returns nothing when it is done; otherwise the line is no action, and the reason
+// is returned.
 std::string PlayLine(Player& player, std::string_view line);
 
-// Plays a script until it ends, the program ends, or a line is no action. The program's exit code.
+// Plays a script until it ends, the program ends, or a line is no action. Returns the program's
+// exit code.
 int PlayScript(std::istream& script, std::ostream& stream, std::ostream& errors, bool trace);
 
 }  // namespace orvane

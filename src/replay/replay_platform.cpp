@@ -22,7 +22,7 @@ constexpr std::string_view FormatName(FileFormat format) {
   return "";
 }
 
-// The surface and the pair go by their own names, the plot by the name of its window.
+// The surface and the pair have their own names, the plot the name of its window.
 const std::string& SourceName(const Control& source) {
   return source.Owner.Prefix.empty() ? source.Name : source.Owner.Name;
 }

@@ -16,11 +16,11 @@ class ReplayPlatform : public Platform {
   explicit ReplayPlatform(Output& output) : output_(output) {}
 
   std::deque<std::string> Answers;  // replies to the next input boxes; with none left: cancelled
-  int SoundError = 0;               // of the next SoundOpen alone; 0: the file opens
+  int SoundError = 0;               // of the next SoundOpen only; 0: the file opens
   bool HasPrinter = true;
   bool Ended = false;
 
-  // No script sets these; whoever drives a player from code does.
+  // No script sets these; only code that drives a player does.
   std::function<void()> PendingEvents;  // runs inside LetEventsRun
   std::string SaveFails;                // not empty: every save fails with this clause
 
@@ -30,7 +30,7 @@ class ReplayPlatform : public Platform {
   void FailureBox(std::string_view text) override;
   std::string InputBox(std::string_view prompt, std::string_view title) override;
 
-  // A script's actions come one after the other, so nothing of it is ever pending.
+  // A script's actions come one after the other, so none is ever pending.
   void LetEventsRun() override {
     if (PendingEvents) PendingEvents();
   }
@@ -39,7 +39,7 @@ class ReplayPlatform : public Platform {
 
   void SavePicture(const SaveRequest& request) override;
   bool PrintWindow(Window& page) override;
-  // Lines do not hang on where the program file lies.
+  // The lines do not depend on where the program file lies.
   std::string ProgramFolder() override { return "."; }
 
   int SoundOpen(const std::string& path) override;

@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-// Room by room in the order of the desk, and within a room in the order of its header.
+// Part by part in the order of the desk, and within a part in the order of its header.
 void AppendStateFields(ObjectLine& line, const Orvane_Desk& desk);
 
 }  // namespace orvane

@@ -18,7 +18,7 @@ class SurfaceLines : public SurfaceTrace {
   Output& output_;
 };
 
-// Circles on one picture of the plot; whatever else happens to it is not told.
+// Circles on one picture of the plot; nothing else that happens to it is printed.
 class PlotLines : public SurfaceTrace {
  public:
   PlotLines(Output& output, int index) : output_(output), index_(index) {}
