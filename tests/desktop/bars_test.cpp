@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "desktop/bar_widget.h"
+#include "desktop/widgets/bar_widget.h"
 #include "window_fixture.h"
 
 namespace orvane {

@@ -3,8 +3,8 @@
 
 #include <QFontMetricsF>
 
-#include "desktop/dress.h"
-#include "desktop/type.h"
+#include "desktop/look/dress.h"
+#include "desktop/look/type.h"
 #include "window_fixture.h"
 
 namespace orvane {

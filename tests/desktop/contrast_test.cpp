@@ -2,7 +2,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "desktop/palette.h"
+#include "desktop/look/palette.h"
 
 namespace orvane {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "desktop/dress.h"
+#include "desktop/look/dress.h"
 #include "window_fixture.h"
 
 namespace orvane {

@@ -3,9 +3,9 @@
 
 #include <QScreen>
 
-#include "desktop/icon.h"
-#include "desktop/plot_label.h"
-#include "desktop/reading_text.h"
+#include "desktop/look/icon.h"
+#include "desktop/widgets/plot_label.h"
+#include "desktop/widgets/reading_text.h"
 #include "program_fixture.h"
 
 namespace orvane {

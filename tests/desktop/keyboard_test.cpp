@@ -6,7 +6,7 @@
 #include <QMenu>
 #include <QTemporaryDir>
 
-#include "desktop/menu_strip.h"
+#include "desktop/windows/menu_strip.h"
 #include "draw/strokes_text.h"
 #include "program_fixture.h"
 

@@ -3,8 +3,8 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "desktop/flyout.h"
-#include "desktop/row_list.h"
+#include "desktop/widgets/flyout.h"
+#include "desktop/widgets/row_list.h"
 #include "window_fixture.h"
 
 namespace orvane {

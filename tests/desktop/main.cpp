@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "desktop/application.h"
+#include "desktop/programs/application.h"
 
 int main(int count, char** words) {
   qputenv("QT_QPA_PLATFORM", qEnvironmentVariable("ORVANE_TEST_PLATFORM", "offscreen").toUtf8());

@@ -2,7 +2,7 @@
 
 #include <QMenu>
 
-#include "desktop/menu_strip.h"
+#include "desktop/windows/menu_strip.h"
 #include "window_fixture.h"
 
 namespace orvane {

@@ -1,5 +1,5 @@
 // Picture files, read back by a program that is not ours and compared with the screen.
-#include "desktop/picture_files.h"
+#include "desktop/outside/picture_files.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "desktop/row_list.h"
-#include "desktop/type.h"
+#include "desktop/look/type.h"
+#include "desktop/widgets/row_list.h"
 #include "draw/elements.h"
 #include "window_fixture.h"
 

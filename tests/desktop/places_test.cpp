@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "desktop/dress.h"
-#include "desktop/menu_strip.h"
+#include "desktop/look/dress.h"
+#include "desktop/windows/menu_strip.h"
 #include "window_fixture.h"
 
 namespace orvane {

@@ -3,7 +3,7 @@
 
 #include <QScreen>
 
-#include "desktop/plot_label.h"
+#include "desktop/widgets/plot_label.h"
 #include "program_fixture.h"
 
 namespace orvane {

@@ -1,6 +1,6 @@
 // The printed page, drawn on an image as if it were paper. If a test printer is given, it is also
 // printed on paper (print_to_paper.sh).
-#include "desktop/printed_page.h"
+#include "desktop/outside/printed_page.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "desktop/scale.h"
+#include "desktop/look/scale.h"
 
 #include <gtest/gtest.h>
 

@@ -6,8 +6,8 @@
 #include <QAccessible>
 
 #include "controls/spoken.h"
-#include "desktop/file_list_widget.h"
-#include "desktop/menu_strip.h"
+#include "desktop/widgets/file_list_widget.h"
+#include "desktop/windows/menu_strip.h"
 #include "narration/atom_walk.h"
 #include "narration/picture_words.h"
 #include "narration/spoken_words.h"

@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 #include <QToolTip>
 
-#include "desktop/picture_files.h"
-#include "desktop/printed_page.h"
+#include "desktop/outside/picture_files.h"
+#include "desktop/outside/printed_page.h"
 #include "draw/elements.h"
 #include "window_fixture.h"
 

@@ -10,7 +10,7 @@
 #include <QTimer>
 #include <QtEndian>
 
-#include "desktop/file_list_widget.h"
+#include "desktop/widgets/file_list_widget.h"
 #include "shell/start_up.h"
 #include "window_fixture.h"
 

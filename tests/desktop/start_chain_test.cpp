@@ -4,7 +4,7 @@
 
 #include <QScreen>
 
-#include "desktop/row_list.h"
+#include "desktop/widgets/row_list.h"
 #include "program_fixture.h"
 
 namespace orvane {

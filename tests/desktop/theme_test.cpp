@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QPalette>
 
-#include "desktop/palette.h"
-#include "desktop/type.h"
+#include "desktop/look/palette.h"
+#include "desktop/look/type.h"
 #include "window_fixture.h"
 
 namespace orvane {

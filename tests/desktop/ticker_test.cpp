@@ -1,5 +1,5 @@
 // The clock behind the timers of the desk. The tests check only what must hold at any speed.
-#include "desktop/ticker.h"
+#include "desktop/outside/ticker.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>

@@ -10,9 +10,9 @@
 #include <QTest>
 
 #include "desk/actions.h"
-#include "desktop/control_view.h"
-#include "desktop/skin.h"
-#include "desktop/window_widget.h"
+#include "desktop/widgets/control_view.h"
+#include "desktop/windows/skin.h"
+#include "desktop/windows/window_widget.h"
 #include "shell/start_up.h"
 
 namespace orvane {

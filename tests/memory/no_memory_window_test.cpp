@@ -3,8 +3,8 @@
 
 #include <QApplication>
 
-#include "desktop/application.h"
-#include "desktop/picture_widget.h"
+#include "desktop/programs/application.h"
+#include "desktop/widgets/picture_widget.h"
 #include "desktop/window_fixture.h"
 #include "memory/memory_that_runs_out.h"
 

@@ -3,7 +3,7 @@
 
 #include <QTemporaryDir>
 
-#include "desktop/picture_widget.h"
+#include "desktop/widgets/picture_widget.h"
 #include "desktop/window_fixture.h"
 #include "memory/little_room.h"
 

@@ -18,9 +18,9 @@
 #include <QTimer>
 
 #include "desk/actions.h"
-#include "desktop/look_style.h"
-#include "desktop/qt_platform.h"
-#include "desktop/skin.h"
+#include "desktop/look/look_style.h"
+#include "desktop/outside/qt_platform.h"
+#include "desktop/windows/skin.h"
 #include "shell/start_up.h"
 
 namespace orvane {

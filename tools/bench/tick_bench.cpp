@@ -16,10 +16,10 @@
 #include <QWindow>
 
 #include "desk/actions.h"
-#include "desktop/look_style.h"
-#include "desktop/qt_platform.h"
-#include "desktop/skin.h"
-#include "desktop/window_widget.h"
+#include "desktop/look/look_style.h"
+#include "desktop/outside/qt_platform.h"
+#include "desktop/windows/skin.h"
+#include "desktop/windows/window_widget.h"
 #include "shell/start_up.h"
 
 namespace orvane {

@@ -19,10 +19,10 @@
 #include <QElapsedTimer>
 #include <QPixmap>
 
-#include "desktop/application.h"
-#include "desktop/qt_platform.h"
-#include "desktop/skin.h"
-#include "desktop/window_widget.h"
+#include "desktop/outside/qt_platform.h"
+#include "desktop/programs/application.h"
+#include "desktop/windows/skin.h"
+#include "desktop/windows/window_widget.h"
 #include "replay/player.h"
 
 namespace orvane {

@@ -8,12 +8,12 @@
 #include "controls/scroll_bar.h"
 #include "controls/spoken.h"
 #include "controls/surface.h"
-#include "desktop/control_view.h"
-#include "desktop/menu_strip.h"
-#include "desktop/picture_widget.h"
-#include "desktop/row_list.h"
-#include "desktop/skin.h"
-#include "desktop/window_widget.h"
+#include "desktop/widgets/control_view.h"
+#include "desktop/widgets/picture_widget.h"
+#include "desktop/widgets/row_list.h"
+#include "desktop/windows/menu_strip.h"
+#include "desktop/windows/skin.h"
+#include "desktop/windows/window_widget.h"
 
 namespace orvane {
 namespace {

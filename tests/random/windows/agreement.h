@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "desktop/skin.h"
+#include "desktop/windows/skin.h"
 
 namespace orvane {
 

@@ -11,8 +11,8 @@
 #include <QWindow>
 
 #include "desk/actions.h"
-#include "desktop/row_list.h"
-#include "desktop/window_widget.h"
+#include "desktop/widgets/row_list.h"
+#include "desktop/windows/window_widget.h"
 #include "random/windows/strike.h"
 
 namespace orvane {

@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "desktop/skin.h"
+#include "desktop/windows/skin.h"
 #include "random/desk/dice.h"
 #include "random/windows/outside.h"
 

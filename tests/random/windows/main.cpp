@@ -9,7 +9,7 @@
 
 #include <QApplication>
 
-#include "desktop/application.h"
+#include "desktop/programs/application.h"
 #include "random/desk/apart.h"
 #include "random/desk/numbers.h"
 #include "random/windows/sitting.h"

@@ -6,8 +6,8 @@
 #include <QFile>
 #include <QPainter>
 
-#include "desktop/printed_page.h"
-#include "desktop/skin.h"
+#include "desktop/outside/printed_page.h"
+#include "desktop/windows/skin.h"
 
 namespace orvane {
 

@@ -3,7 +3,7 @@
 
 #include <QTemporaryDir>
 
-#include "desktop/qt_platform.h"
+#include "desktop/outside/qt_platform.h"
 
 namespace orvane {
 

@@ -8,7 +8,7 @@
 #include <QTimerEvent>
 
 #include "desk/actions.h"
-#include "desktop/window_widget.h"
+#include "desktop/windows/window_widget.h"
 #include "random/desk/always.h"
 #include "random/windows/agreement.h"
 #include "random/windows/hands.h"

@@ -1,0 +1,42 @@
+#include "desktop/look/plot_type.h"
+
+#include <embedded/liberation_sans.h>
+#include <embedded/liberation_serif.h>
+#include <embedded/liberation_serif_bold.h>
+
+#include <QFontDatabase>
+
+namespace orvane {
+namespace {
+
+bool AddFont(std::span<const unsigned char> bytes) {
+  return QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(
+             reinterpret_cast<const char*>(bytes.data()), static_cast<qsizetype>(bytes.size()))) >=
+         0;
+}
+
+bool LoadPlotType() {
+  return AddFont(embedded::liberation_sans()) && AddFont(embedded::liberation_serif()) &&
+         AddFont(embedded::liberation_serif_bold());
+}
+
+// The straight phi is missing in the serif type; the windows' own type has it.
+constexpr char16_t kStraightPhi = u'ϕ';
+constexpr double kLent = 0.8;  // of the size: its letters are larger for their size
+
+}  // namespace
+
+QFont PlotFont(PlotFamily family, int size, const QString& text) {
+  static const bool loaded = LoadPlotType();  // when the first window wants it
+  (void)loaded;
+  const bool lent = text.contains(kStraightPhi);
+  QFont font(lent                         ? QStringLiteral("Inter")
+             : family == PlotFamily::Sans ? QStringLiteral("Liberation Sans")
+                                          : QStringLiteral("Liberation Serif"));
+  font.setPixelSize(lent ? static_cast<int>(size * kLent) : size);
+  font.setBold(family == PlotFamily::BoldSerif);
+  font.setHintingPreference(QFont::PreferVerticalHinting);
+  return font;
+}
+
+}  // namespace orvane

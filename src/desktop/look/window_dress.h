@@ -1,0 +1,19 @@
+// What the controls of a window stand on: its ground, and the dark band of a title.
+#pragma once
+
+#include <string_view>
+
+#include "desktop/look/palette.h"
+
+namespace orvane {
+
+struct WindowDress {
+  std::string_view Window;
+  QRgb Ground = palette::kGround;
+  int Band = 0;         // twips from the top, dark
+  bool Centred = true;  // comes up in the middle of the screen, and not at its own place
+};
+
+const WindowDress& WindowDressOf(std::string_view window);
+
+}  // namespace orvane

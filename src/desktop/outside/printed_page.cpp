@@ -1,0 +1,152 @@
+#include "desktop/outside/printed_page.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include "controls/kinds.h"
+#include "desktop/look/palette.h"
+#include "desktop/look/type.h"
+#include "desktop/windows/skin.h"
+#include "desktop/windows/window_widget.h"
+#include "runtime/no_memory.h"
+#include "windows/print_page.h"
+
+namespace orvane {
+namespace {
+
+// Finer pixels are not seen, and cost four times the memory at twice the density.
+constexpr int kMostDots = 600;
+
+constexpr int kRightMargin = 300;  // twips: how near to the page's edge a name may grow
+
+// How the page's captions are set, in pixels of the page at 100 per cent.
+struct CaptionRow {
+  std::string_view Name;
+  Type Letters;
+  Qt::Alignment Align;
+  bool Grows;  // to the right, with its text
+};
+constexpr CaptionRow kCaptions[] = {
+    {"Mol_Name", {13, 600}, Qt::AlignLeft, true},
+    {"Str_Entm", {13, 600}, Qt::AlignHCenter, false},
+    {"L_Form", {12, 600}, Qt::AlignHCenter, false},
+    {"R_Form", {12, 600}, Qt::AlignHCenter, false},
+    {"AA_name", {12, 600}, Qt::AlignLeft, true},
+};
+
+// The plan of a window on the paper.
+struct Sheet {
+  QRectF Area;
+  double Twip;  // painter's pixels
+
+  QRectF On(const Place& at) const {
+    return {Area.left() + at.Left * Twip, Area.top() + at.Top * Twip, at.Width * Twip,
+            at.Height * Twip};
+  }
+};
+
+Sheet SheetOf(const QRectF& paper, const Place& plan) {
+  const double twip = std::min(paper.width() / plan.Width, paper.height() / plan.Height);
+  const double width = plan.Width * twip;
+  return {
+      QRectF(paper.left() + (paper.width() - width) / 2, paper.top(), width, plan.Height * twip),
+      twip};
+}
+
+// Pixels of an image that is drawn over `pixels` of a printer of so many dots.
+int ImagePixels(double pixels, int dots) {
+  return std::max(1,
+                  static_cast<int>(std::lround(pixels * std::min(1.0, kMostDots / (dots + 0.0)))));
+}
+
+bool Shows(const Control& control) {
+  for (const Control* c = &control; c != nullptr; c = c->Parent) {
+    if (!c->Visible) return false;
+  }
+  return true;
+}
+
+void DrawCaption(QPainter& painter, const Sheet& sheet, const Control& control) {
+  for (const CaptionRow& row : kCaptions) {
+    if (row.Name != control.Name) continue;
+    const QString text = QString::fromStdString(control.Caption);
+    Place at = control.At;
+    if (row.Grows) {
+      const int needed = static_cast<int>(std::ceil(WidthOf(row.Letters, text) * TwipsPerPixel));
+      const int room = control.Owner.Row.At.Width - kRightMargin - at.Left;
+      at.Width = std::min(std::max(at.Width, needed), room);
+    }
+    DrawLine(painter, sheet.On(at), row.Align, row.Letters, palette::kInk,
+             sheet.Twip * TwipsPerPixel, text);
+  }
+}
+
+void DrawPicture(QPainter& painter, const Sheet& sheet, int dots, Skin& skin, const ImageBox& box) {
+  const auto& picture = box.Shown();
+  if (picture == nullptr || picture->Width == 0) return;
+  const QRectF at = sheet.On(box.At);
+  const int width = ImagePixels(at.width(), dots), height = ImagePixels(at.height(), dots);
+  QImage image(width, height, QImage::Format_RGB32);
+  if (image.isNull()) FailMemory();
+  skin.raster.Paint(*picture, static_cast<double>(width) / picture->Width,
+                    reinterpret_cast<std::uint32_t*>(image.bits()), width, height,
+                    static_cast<int>(image.bytesPerLine() / 4));
+  painter.drawImage(at, image);
+}
+
+// Thin lines are kept as they are, not smeared by a lossy packing.
+void PreparePainter(QPainter& painter) {
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
+                         QPainter::LosslessImageRendering);
+}
+
+}  // namespace
+
+void DrawPrintPage(QPainter& painter, const QRectF& paper, int dots, Skin& skin, PrintPage& page) {
+  PreparePainter(painter);
+  const Sheet sheet = SheetOf(paper, page.Row.At);
+  painter.fillRect(sheet.Area, Qt::white);
+  for (const Control* control : page.Controls) {
+    if (!Shows(*control)) continue;
+    DrawCaption(painter, sheet, *control);
+    if (const auto* box = dynamic_cast<const ImageBox*>(control)) {
+      DrawPicture(painter, sheet, dots, skin, *box);
+    }
+  }
+}
+
+void DrawWindow(QPainter& painter, const QRectF& paper, int dots, Skin& skin, Window& window) {
+  PreparePainter(painter);
+  const Sheet sheet = SheetOf(paper, window.Row.At);
+  WindowWidget again(skin, window);
+  const double ratio = again.devicePixelRatioF();
+  again.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);  // paper may be larger than the screen
+  again.resize(static_cast<int>(std::lround(ImagePixels(sheet.Area.width(), dots) / ratio)),
+               static_cast<int>(std::lround(ImagePixels(sheet.Area.height(), dots) / ratio)));
+  // A maximised window shows its plan as large as it is. A change of size would end that state.
+  again.setWindowState(Qt::WindowMaximized);
+  again.LayAll();
+  const Sight::Leaving leaving(skin.sight);
+  painter.drawImage(sheet.Area, again.grab().toImage());
+}
+
+bool PrintOnPaper(Skin& skin, Window& window) {
+  const QPrinterInfo chosen = QPrinterInfo::defaultPrinter();
+  if (chosen.isNull()) return false;
+  QPrinter printer(chosen, QPrinter::HighResolution);
+  printer.setDocName(QStringLiteral("Orvane"));
+  QPainter painter;
+  if (!printer.isValid() || !painter.begin(&printer)) return false;
+  const QRectF paper(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size());
+  if (auto* page = dynamic_cast<PrintPage*>(&window)) {
+    DrawPrintPage(painter, paper, printer.resolution(), skin, *page);
+  } else {
+    DrawWindow(painter, paper, printer.resolution(), skin, window);
+  }
+  return painter.end() && printer.printerState() != QPrinter::Error;
+}
+
+}  // namespace orvane

@@ -1,0 +1,33 @@
+// The desktop program.
+#include <memory>
+
+#include <QApplication>
+#include <QTimer>
+
+#include "desktop/look/icon.h"
+#include "desktop/outside/qt_platform.h"
+#include "desktop/programs/application.h"
+#include "desktop/windows/skin.h"
+#include "shell/start_up.h"
+
+namespace {
+
+// Milliseconds. The icon is painted in eight sizes, which takes as long as the whole first window:
+// that one shall stand first.
+constexpr int kIconAfter = 200;
+
+}  // namespace
+
+int main(int count, char** words) {
+  orvane::Application application(count, words);
+  QApplication::setApplicationName(QStringLiteral("Orvane"));
+  // The entry that gives the window its icon where windows have none of their own.
+  QGuiApplication::setDesktopFileName(QStringLiteral("orvane"));
+
+  orvane::QtPlatform platform;
+  const auto desk = orvane::StartDesk(platform);
+  orvane::Skin skin(*desk, platform);
+  skin.ShowWindows();
+  QTimer::singleShot(kIconAfter, [] { QApplication::setWindowIcon(orvane::ProgramIcon()); });
+  return QApplication::exec();
+}

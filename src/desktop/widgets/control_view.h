@@ -1,0 +1,74 @@
+// What shows one control: a widget with the control's name, place, state and words for a screen
+// reader, which passes on what the user does to it.
+#pragma once
+
+#include <QEvent>
+#include <QPainter>
+#include <QWidget>
+
+#include "controls/window.h"
+#include "desktop/look/scale.h"
+
+namespace orvane {
+
+class Skin;
+class WindowWidget;
+
+class ControlView {
+ public:
+  ControlView(WindowWidget& window, Control& shown, QWidget& own);
+  virtual ~ControlView() = default;
+  ControlView(const ControlView&) = delete;
+  ControlView& operator=(const ControlView&) = delete;
+
+  Control& control;
+  QWidget& widget;
+  WindowWidget& host;
+
+  // Takes over what the control is, once the widget is whole: from then on a screen reader may ask.
+  void Begin();
+  // Something of the control has changed.
+  virtual void Take(Aspect aspect);
+  // Puts the widget at the control's place.
+  virtual void Lay();
+
+  // A press and a click in the middle, as keys and a screen reader do it.
+  void ClickInTheMiddle();
+
+  double Unit() const;                               // device pixels to a pixel of the plan
+  const Spot& Stand() const { return spot_; }        // in the desk
+  QPointF SurfacePoint(QPointF widget_point) const;  // pixels of the control
+  QRectF FaceInWidget() const;                       // the control in widget's pixels
+
+ protected:
+  virtual Place StandsAt() const { return control.At; }
+  virtual double Outset() const { return 0; }  // pixels painted round the face
+  void Hear(QEvent& event);                    // pointer and keyboard coming
+  QRect EnterPixels(QPainter& painter) const;  // device pixels; gives the face, from 0, 0
+  bool HasRing() const { return widget.hasFocus(); }
+
+  Spot spot_;
+};
+
+// A widget of the toolkit that shows a control.
+template <class Base>
+class Viewed : public Base, public ControlView {
+ public:
+  Viewed(WindowWidget& owner, Control& shown, QWidget& parent)
+      : Base(&parent), ControlView(owner, shown, *this) {}
+
+ protected:
+  bool event(QEvent* event) override {
+    Hear(*event);
+    return Base::event(event);
+  }
+};
+
+// Corners, faces, edges and rings, in device pixels.
+void PaintPlate(QPainter& painter, const QRectF& face, QRgb fill, QRgb edge, double corner,
+                int width);
+void PaintRing(QPainter& painter, const QRectF& face, QRgb ink, double corner, double unit,
+               bool white_within);
+void PaintShadow(QPainter& painter, const QRect& face, double corner, int reach);
+
+}  // namespace orvane

@@ -1,0 +1,180 @@
+#include "desktop/widgets/file_list_widget.h"
+
+#include <QDir>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QStorageInfo>
+
+#include "desk/actions.h"
+#include "desktop/look/palette.h"
+#include "desktop/look/type.h"
+#include "desktop/windows/skin.h"
+#include "desktop/windows/window_widget.h"
+
+namespace orvane {
+namespace {
+
+// There is room in the chooser, and names of files are read more slowly.
+constexpr RowMeasures kWide{
+    .Height = 17, .FirstTop = 3, .TextLeft = 8, .Inset = 3, .Letters = {11, 500}};
+
+QString PathOf(const FileList& list) { return QString::fromStdString(list.Path); }
+
+}  // namespace
+
+ControlView* MakeFileList(WindowWidget& window, FileList& list, QWidget& parent) {
+  if (list.Name == "Drive1") return new DriveWidget(window, list, parent);
+  if (list.Name == "Dir1") return new FolderList(window, list, parent);
+  return new SoundFileList(window, list, parent);
+}
+
+DriveWidget::DriveWidget(WindowWidget& owner, FileList& shown, QWidget& parent)
+    : Viewed(owner, shown, parent), list_(shown) {}
+
+QString DriveWidget::Path() const { return PathOf(list_); }
+
+// What a reader would call a drive: home, the root, and whatever was plugged in.
+QStringList DriveWidget::Drives() {
+  QStringList drives{QDir::homePath(), QDir::rootPath()};
+  for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
+    const QString root = volume.rootPath();
+    const bool plugged = root.startsWith(QLatin1String("/media/")) ||
+                         root.startsWith(QLatin1String("/run/media/")) ||
+                         root.startsWith(QLatin1String("/mnt/"));
+    if (volume.isReady() && plugged && !drives.contains(root)) drives.append(root);
+  }
+  drives.removeDuplicates();
+  return drives;
+}
+
+// The lists are filled when they are first looked at.
+void DriveWidget::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (list_.Path.Get().empty()) Choose(Drives().first());
+}
+
+void DriveWidget::Choose(const QString& path) {
+  OpenFolder(host.skin.desk, list_, path.toStdString());
+  update();
+}
+
+void DriveWidget::OpenMenu() {
+  QMenu menu(this);
+  for (const QString& drive : Drives()) {
+    menu.addAction(drive, this, [this, drive] { Choose(drive); });
+  }
+  menu.setMinimumWidth(width());
+  menu.exec(mapToGlobal(QPoint(0, height())));
+}
+
+void DriveWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRect face = EnterPixels(painter);
+  const double unit = Unit();
+  PaintPlate(painter, face, palette::kFace, underMouse() ? palette::kAccent : palette::kEdge,
+             4 * unit, host.scale.Edge());
+  if (HasRing()) PaintRing(painter, face, palette::kAccent, 4, unit, false);
+  const QRectF text = QRectF(face).adjusted(8 * unit, 0, -24 * unit, 0);
+  DrawLine(painter, text, Qt::AlignLeft, {11, 500}, palette::kInk, unit,
+           Elided({11, 500}, PathOf(list_), text.width() / unit));
+  const QPointF tip(face.width() - 12 * unit, face.height() / 2.0 + 2 * unit);
+  const QPointF arrow[] = {tip + QPointF(-3.5, -3.5) * unit, tip, tip + QPointF(3.5, -3.5) * unit};
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(QColor::fromRgba(palette::kInk2), 1.5 * unit, Qt::SolidLine, Qt::RoundCap,
+                      Qt::RoundJoin));
+  painter.drawPolyline(arrow, 3);
+}
+
+void DriveWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) OpenMenu();
+}
+
+void DriveWidget::keyPressEvent(QKeyEvent* event) {
+  const QStringList drives = Drives();
+  const qsizetype now = drives.indexOf(PathOf(list_));
+  switch (event->key()) {
+    case Qt::Key_Up:
+      return Choose(drives[std::max<qsizetype>(0, now - 1)]);
+    case Qt::Key_Down:
+      return Choose(drives[std::min(drives.size() - 1, now + 1)]);
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return OpenMenu();
+    default:
+      event->ignore();
+  }
+}
+
+FolderRows::FolderRows(WindowWidget& owner, FileList& shown, QWidget& parent)
+    : RowList(owner, shown, parent), list_(shown) {
+  has_keys_ = joined_ = false;
+  edge_ = palette::kEdge;
+  measures_ = kWide;
+}
+
+void FolderRows::Take(Aspect aspect) {
+  RowList::Take(aspect);
+  if (aspect == Aspect::Rows) ReadFolder();
+}
+
+FolderList::FolderList(WindowWidget& owner, FileList& shown, QWidget& parent)
+    : FolderRows(owner, shown, parent) {
+  ReadFolder();
+}
+
+// From the root down to the open folder, which is the chosen row, and the folders in it.
+void FolderList::ReadFolder() {
+  paths_.clear();
+  QStringList rows;
+  if (list_.Path.Get().empty()) return SetRows(rows);
+  QDir folder(PathOf(list_));
+  do {
+    paths_.prepend(folder.absolutePath());
+    rows.prepend(folder.isRoot() ? folder.absolutePath() : folder.dirName());
+  } while (folder.cdUp());
+  const int chosen = static_cast<int>(rows.size()) - 1;
+  const QDir open(PathOf(list_));
+  for (const QString& name : open.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+    rows.append(name);
+    paths_.append(open.absoluteFilePath(name));
+  }
+  SetRows(rows);
+  SetChosen(chosen);
+}
+
+void FolderList::Choose(int row) { SetChosen(row); }
+
+void FolderList::ChooseTwice(int row) {
+  OpenFolder(host.skin.desk, list_, paths_[row].toStdString());
+}
+
+SoundFileList::SoundFileList(WindowWidget& owner, FileList& shown, QWidget& parent)
+    : FolderRows(owner, shown, parent) {
+  ReadFolder();
+}
+
+void SoundFileList::ReadFolder() {
+  QStringList rows;
+  if (!list_.Path.Get().empty()) {
+    const QStringList patterns = QString::fromStdString(list_.Pattern).split(u';');
+    rows = QDir(PathOf(list_)).entryList(patterns, QDir::Files, QDir::Name);
+  }
+  SetRows(rows);
+  SetChosen(static_cast<int>(rows.indexOf(QString::fromStdString(list_.FileName))));
+}
+
+void SoundFileList::Take(Aspect aspect) {
+  FolderRows::Take(aspect);
+  if (aspect == Aspect::Value) {
+    SetChosen(static_cast<int>(Rows().indexOf(QString::fromStdString(list_.FileName))));
+  }
+}
+
+void SoundFileList::Choose(int row) {
+  ChooseFile(host.skin.desk, list_, Rows()[row].toStdString());
+}
+
+void SoundFileList::ChooseTwice(int) { DoubleClick(host.skin.desk, list_); }
+
+}  // namespace orvane

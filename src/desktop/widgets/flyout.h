@@ -1,0 +1,34 @@
+// A cut row or a hidden caption, shown whole above everything: right edges equal, growing
+// leftwards.
+#pragma once
+
+#include <QWidget>
+
+#include "desktop/look/scale.h"
+
+namespace orvane {
+
+class WindowWidget;
+
+// Takes no pointer: what lies below goes on being under it.
+class Flyout : public QWidget {
+ public:
+  Flyout(WindowWidget& window, QWidget& desk);
+
+  // `row` in device pixels of the desk; `key` stands before `rest`, in a heavier letter.
+  void ShowRow(const void* owner, const QRect& row, const QString& key, const QString& rest);
+  void HideOf(const void* owner);
+
+  const QString& Text() const { return text_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  WindowWidget& window_;
+  const void* owner_ = nullptr;
+  QString key_, rest_, text_;
+  Spot spot_;
+};
+
+}  // namespace orvane

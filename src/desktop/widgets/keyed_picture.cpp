@@ -1,0 +1,31 @@
+#include "desktop/widgets/keyed_picture.h"
+
+#include <QFocusEvent>
+
+#include "desktop/widgets/walk_mark.h"
+#include "desktop/windows/skin.h"
+#include "desktop/windows/window_widget.h"
+
+namespace orvane {
+
+void KeyedPicture::paintEvent(QPaintEvent* event) {
+  PictureWidget::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(this);
+  const QRect face = EnterPixels(painter);
+  PaintWalkMark(painter, face, Unit(), host.skin.desk);
+  if (by_keys_) PaintPictureRing(painter, face, Unit());
+}
+
+// A window or a menu that gives the keyboard back changes nothing.
+void KeyedPicture::focusInEvent(QFocusEvent* event) {
+  PictureWidget::focusInEvent(event);
+  const Qt::FocusReason reason = event->reason();
+  if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+      reason == Qt::MenuBarFocusReason) {
+    return;
+  }
+  by_keys_ = reason != Qt::MouseFocusReason;
+}
+
+}  // namespace orvane

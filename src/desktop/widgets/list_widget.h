@@ -1,0 +1,24 @@
+// A list of stock structures: a click on a row, also on the chosen one, chooses it.
+#pragma once
+
+#include "controls/kinds.h"
+#include "desktop/widgets/row_list.h"
+
+namespace orvane {
+
+class ListWidget : public RowList {
+ public:
+  ListWidget(WindowWidget& owner, List& shown, QWidget& parent);
+
+  void Take(Aspect aspect) override;
+
+  void Choose(int row) override;
+  void ChooseTwice(int row) override;
+
+ private:
+  void ReadControl();
+
+  List& list_;
+};
+
+}  // namespace orvane

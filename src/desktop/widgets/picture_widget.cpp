@@ -1,0 +1,122 @@
+#include "desktop/widgets/picture_widget.h"
+
+#include <new>
+#include <utility>
+
+#include <QTimer>
+
+#include "controls/kinds.h"
+#include "controls/surface.h"
+#include "desk/actions.h"
+#include "desktop/look/palette.h"
+#include "desktop/widgets/plate.h"
+#include "desktop/windows/skin.h"
+#include "desktop/windows/window_widget.h"
+#include "runtime/failure.h"
+#include "runtime/no_memory.h"
+
+namespace orvane {
+
+PictureWidget::PictureWidget(WindowWidget& owner, Control& shown, QWidget& parent)
+    : Viewed(owner, shown, parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PictureWidget::Take(Aspect aspect) {
+  const bool drawn =
+      aspect == Aspect::Surface || aspect == Aspect::Picture || aspect == Aspect::BackColor;
+  if (!drawn) return ControlView::Take(aspect);
+  stale_ = true;
+  rest_tip_.Drop();
+  host.skin.RepaintSoon(*this);
+}
+
+void PictureWidget::Lay() {
+  ControlView::Lay();
+  stale_ = true;
+}
+
+std::shared_ptr<const Picture> PictureWidget::Now() const {
+  if (const auto* box = dynamic_cast<const PictureBox*>(&control)) return box->Image();
+  if (const auto* image = dynamic_cast<const ImageBox*>(&control)) return image->Shown();
+  return nullptr;
+}
+
+// The picture's width fills the control's, so an image box shows a snapshot of any size as its own.
+void PictureWidget::PaintPixels() {
+  const QSize size = Stand().Face.size();
+  if (pixels_.size() != size) pixels_ = QImage(size, QImage::Format_RGB32);
+  if (pixels_.isNull() && !size.isEmpty()) FailMemory();
+  const auto picture = Now();
+  if (picture == nullptr || picture->Width == 0) return pixels_.fill(Qt::black);
+  host.skin.raster.Paint(*picture, static_cast<double>(size.width()) / picture->Width,
+                         reinterpret_cast<std::uint32_t*>(pixels_.bits()), size.width(),
+                         size.height(), static_cast<int>(pixels_.bytesPerLine() / 4));
+}
+
+// The toolkit asks for it in the midst of its painting, and nothing may be thrown through that.
+void PictureWidget::RasterOnce() {
+  try {
+    PaintPixels();
+    stale_ = told_ = false;
+  } catch (const Failure&) {
+    GoWithout();
+  } catch (const std::bad_alloc&) {
+    GoWithout();
+  }
+}
+
+// Nothing is shown until there is memory again; that is told once, when the painting is over.
+void PictureWidget::GoWithout() {
+  pixels_ = QImage();
+  if (std::exchange(told_, true)) return;
+  QTimer::singleShot(0, this, [this] {
+    host.skin.platform.FailureBox(std::string("The picture could not be painted: ") + kNoMemory +
+                                  ".");
+  });
+}
+
+const QImage& PictureWidget::Pixels() {
+  if (stale_) RasterOnce();
+  return pixels_;
+}
+
+bool PictureWidget::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && rest_tip_.Answer(*static_cast<QHelpEvent*>(event))) {
+    return true;
+  }
+  return Viewed::event(event);
+}
+
+void PictureWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRect face = EnterPixels(painter);
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  const bool of_molecule = &control.Owner == &host.skin.desk.main;
+  painter.drawImage(face.topLeft(), of_molecule ? host.skin.sight.Shown(Pixels()) : Pixels());
+}
+
+void PictureWidget::mousePressEvent(QMouseEvent* event) {
+  held_ = event->button() == Qt::LeftButton;
+  const QPointF at = SurfacePoint(event->position());
+  Press(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
+        static_cast<float>(at.y()));
+}
+
+void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
+  const QPointF at = SurfacePoint(event->position());
+  Move(host.skin.desk, control, ButtonsOf(event->buttons()), static_cast<float>(at.x()),
+       static_cast<float>(at.y()));
+}
+
+void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
+  const bool left = event->button() == Qt::LeftButton;
+  const bool click = left && held_ && FaceInWidget().contains(event->position());
+  if (left) held_ = false;
+  const QPointF at = SurfacePoint(event->position());
+  Release(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
+          static_cast<float>(at.y()));
+  if (click) Click(host.skin.desk, control);
+}
+
+}  // namespace orvane

@@ -1,0 +1,41 @@
+// A picture box or an image box: the strokes of its picture, rastered at the screen's own density.
+#pragma once
+
+#include <QImage>
+#include <QMouseEvent>
+
+#include "desktop/widgets/control_view.h"
+#include "desktop/widgets/rest_tip.h"
+#include "raster/picture.h"
+
+namespace orvane {
+
+class PictureWidget : public Viewed<QWidget> {
+ public:
+  PictureWidget(WindowWidget& owner, Control& shown, QWidget& parent);
+
+  void Take(Aspect aspect) override;
+  void Lay() override;
+  const QImage& Pixels();  // of the picture as it is now
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  std::shared_ptr<const Picture> Now() const;
+  void RasterOnce();
+  void PaintPixels();
+  void GoWithout();
+
+  bool stale_ = true;  // the pixels are older than the picture
+  bool told_ = false;  // that there was no memory for them
+  bool held_ = false;
+  QImage pixels_;
+  RestTip rest_tip_{*this};
+};
+
+}  // namespace orvane

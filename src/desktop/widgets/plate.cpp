@@ -1,0 +1,240 @@
+#include "desktop/widgets/plate.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QKeyEvent>
+
+#include "desk/actions.h"
+#include "desktop/windows/skin.h"
+#include "desktop/windows/window_widget.h"
+
+namespace orvane {
+namespace {
+
+using namespace palette;
+
+constexpr double kShadow = 6, kSwatchRing = 3;  // pixels round the face
+
+QString CaptionOf(const Control& control) { return QString::fromStdString(control.Caption); }
+
+QRgb InkOf(int text_style) { return text_style == 4 ? kDeep : text_style == 3 ? kInk2 : kInk; }
+
+}  // namespace
+
+int ButtonOf(Qt::MouseButton button) {
+  return button == Qt::LeftButton    ? kLeftButton
+         : button == Qt::RightButton ? kRightButton
+                                     : kMiddleButton;
+}
+
+int ButtonsOf(Qt::MouseButtons buttons) {
+  return (buttons & Qt::LeftButton ? kLeftButton : 0) +
+         (buttons & Qt::RightButton ? kRightButton : 0) +
+         (buttons & Qt::MiddleButton ? kMiddleButton : 0);
+}
+
+Plate::Plate(WindowWidget& owner, Control& shown, QWidget& parent)
+    : Viewed(owner, shown, parent), dress_(DressOf(shown)) {
+  const ControlKind kind = shown.Row.Kind;
+  if (kind == ControlKind::Ornament || kind == ControlKind::Line) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+}
+
+Place Plate::StandsAt() const {
+  Place place = control.At;
+  if (dress_.GrowsTo > 0) {
+    const double text = WidthOf(dress_.Letters, CaptionOf(control)) + dress_.TextLeft;
+    const int wide = static_cast<int>(std::ceil(text)) * TwipsPerPixel;
+    place.Width = std::clamp(wide, place.Width, std::max(place.Width, dress_.GrowsTo));
+  }
+  return place;
+}
+
+void Plate::Take(Aspect aspect) {
+  const bool had_keyboard = dress_.Floats && isAncestorOf(window()->focusWidget());
+  ControlView::Take(aspect);
+  if (aspect == Aspect::Caption && dress_.GrowsTo > 0) Lay();
+  if (aspect == Aspect::Visible && dress_.Floats) host.FloatingPanelTurned(control, had_keyboard);
+}
+
+double Plate::Outset() const {
+  return dress_.Floats ? kShadow : dress_.Shape == Cut::Swatch ? kSwatchRing : 0;
+}
+
+void Plate::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QRect face = EnterPixels(painter);
+  switch (dress_.Shape) {
+    case Cut::Bevel:
+      PaintBevel(painter, face);
+      break;
+    case Cut::Swatch:
+      PaintSwatch(painter, face);
+      break;
+    default:
+      PaintPlain(painter, face);
+      break;
+  }
+}
+
+void Plate::PaintBevel(QPainter& painter, const QRect& face) {
+  const double corner = dress_.Corner * Unit();
+  const int edge = host.scale.Edge();
+  Look look = control.Style;
+  QRgb ink = InkOf(look.TextStyle);
+  if (control.Row.Kind == ControlKind::Toggle && CaptionSaysOn(control.Caption.Get())) {
+    look.Bevel = 1;
+    ink = kDeep;
+  }
+  if (dress_.LooksPressed) {
+    look.Bevel = 1;
+    ink = kDeep;
+  }
+  const bool heavy = control.Style.Get().TextStyle == 4 || dress_.LooksPressed;
+  const Type letters{11, heavy ? 600 : 500};
+  if (!isEnabled()) {
+    const double in = edge / 2.0;  // of an edge that is not there
+    PaintPlate(painter, QRectF(face).adjusted(in, in, -in, -in), kDisabledFace, kNone, corner,
+               edge);
+    PaintCaption(painter, face, kDisabled, letters);
+    return;
+  }
+  const bool hover = underMouse() || IsHeld();
+  const QRgb fill = IsHeld()          ? kPress
+                    : look.Bevel == 1 ? kTint
+                    : hover           ? kHover
+                    : look.Bevel == 2 ? kFace
+                                      : kGround;
+  const QRgb line = hover || look.Bevel == 1 ? kAccent : look.Bevel == 2 ? kSoftEdge : kOffEdge;
+  PaintPlate(painter, face, fill, line, corner, edge);
+  const QRect lower(face.left(), face.bottom() + 1 - edge, face.width(), edge);
+  if (line == kSoftEdge) {
+    painter.save();
+    painter.setClipRect(lower);
+    PaintPlate(painter, face, kEdge, kNone, corner, edge);
+    painter.restore();
+  }
+  if (look.Bevel == 1 && !HasRing()) {
+    QColor shade = QColor::fromRgba(kDeep);
+    shade.setAlphaF(0.27F);
+    const int in = static_cast<int>(corner);
+    painter.fillRect(QRect(face.left() + in, face.top() + edge, face.width() - 2 * in, edge),
+                     shade);
+  }
+  if (HasRing()) PaintRing(painter, face, kAccent, dress_.Corner, Unit(), true);
+  PaintCaption(painter, face, ink, letters);
+}
+
+void Plate::PaintSwatch(QPainter& painter, const QRect& face) {
+  const Colour colour = control.BackColor;
+  const double corner = dress_.Corner * Unit();
+  const int edge = host.scale.Edge();
+  // As the picture will show it.
+  const QColor fill(host.skin.sight.Shown(qRgb(Red(colour), Green(colour), Blue(colour))));
+  const auto mixed = [](int part) { return static_cast<int>(part * 0.57); };
+  PaintPlate(painter, face, fill.rgb(),
+             qRgb(mixed(fill.red()), mixed(fill.green()), mixed(fill.blue())), corner, edge);
+  if (HasRing() || underMouse()) {
+    const double out = 2.5 * Unit();
+    PaintRing(painter, QRectF(face).adjusted(-out, -out, out, out), kAccent, dress_.Corner + 2.5,
+              Unit(), true);
+  }
+  PaintCaption(painter, face, kInk, dress_.Letters);
+}
+
+void Plate::PaintPlain(QPainter& painter, const QRect& face) {
+  const double corner = dress_.Corner * Unit();
+  const int edge = host.scale.Edge();
+  if (dress_.Floats) PaintShadow(painter, face, corner, host.scale.Device(kShadow));
+  if (dress_.Shape == Cut::Heading) {
+    // Its lower end lies under the list, whose edge closes it.
+    painter.setClipRect(face);
+    PaintPlate(painter, face.adjusted(0, 0, 0, static_cast<int>(corner) + edge), dress_.Face,
+               dress_.Edge, corner, edge);
+  } else {
+    PaintPlate(painter, face, dress_.Face, dress_.Edge, corner, edge);
+  }
+  if (HasRing()) PaintRing(painter, face, kAccent, dress_.Corner, Unit(), true);
+  PaintCaption(painter, face, isEnabled() ? dress_.Ink : kDisabled, dress_.Letters);
+}
+
+void Plate::PaintCaption(QPainter& painter, const QRect& face, QRgb ink, Type letters) {
+  QString caption = CaptionOf(control);
+  const double unit = Unit();
+  const auto align = dress_.Align == Side::Left    ? Qt::AlignLeft
+                     : dress_.Align == Side::Right ? Qt::AlignRight
+                                                   : Qt::AlignHCenter;
+  if (dress_.Align == Side::Centre) caption = caption.trimmed();
+  QRectF box = QRectF(face).adjusted(dress_.TextLeft * unit, 0, -dress_.TextRight * unit, 0);
+  if (dress_.Upwards) {
+    painter.translate(face.left(), face.bottom() + 1);
+    painter.rotate(-90);
+    box = QRectF(0, 0, face.height(), face.width());
+  }
+  if (dress_.TextTop >= 0) box = QRectF(box.left(), dress_.TextTop * unit, box.width(), 16 * unit);
+  if (dress_.LineHeight == 0) {
+    DrawLine(painter, box, align, letters, ink, unit, caption);
+    return;
+  }
+  const QStringList lines = caption.split(u'\n');
+  const double height = dress_.LineHeight * unit;
+  double top = face.top() + (face.height() - height * static_cast<double>(lines.size())) / 2;
+  for (const QString& line : lines) {
+    DrawLine(painter, QRectF(box.left(), top, box.width(), height), align, letters, ink, unit,
+             line);
+    top += height;
+  }
+}
+
+void Plate::mousePressEvent(QMouseEvent* event) {
+  held_ = event->button() == Qt::LeftButton;
+  update();
+  const QPointF at = SurfacePoint(event->position());
+  Press(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
+        static_cast<float>(at.y()));
+}
+
+void Plate::mouseMoveEvent(QMouseEvent* event) {
+  const QPointF at = SurfacePoint(event->position());
+  Move(host.skin.desk, control, ButtonsOf(event->buttons()), static_cast<float>(at.x()),
+       static_cast<float>(at.y()));
+}
+
+void Plate::mouseReleaseEvent(QMouseEvent* event) {
+  const bool left = event->button() == Qt::LeftButton;
+  const bool click = left && held_ && FaceInWidget().contains(event->position());
+  if (left) held_ = false;
+  update();
+  const QPointF at = SurfacePoint(event->position());
+  Release(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
+          static_cast<float>(at.y()));
+  if (click) Click(host.skin.desk, control);
+}
+
+// Space and Enter are a click.
+void Plate::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool own = hasFocus();  // else it has come up from a control that stands on this one
+  if (!own || (!enter && event->key() != Qt::Key_Space)) return event->ignore();
+  if (event->isAutoRepeat() || held_key_.has_value()) return;
+  held_key_ = event->key();
+  update();
+}
+
+void Plate::keyReleaseEvent(QKeyEvent* event) {
+  if (held_key_ != event->key() || event->isAutoRepeat()) return event->ignore();
+  held_key_.reset();
+  update();
+  ClickInTheMiddle();
+}
+
+// The key will be let go elsewhere.
+void Plate::focusOutEvent(QFocusEvent* event) {
+  Viewed::focusOutEvent(event);
+  held_key_.reset();
+  update();
+}
+
+}  // namespace orvane

@@ -1,0 +1,47 @@
+// A text for reading, broken into lines. Blanks before a hyphen are the gap of a letter that a
+// control of its own lays over them; no line breaks there.
+#pragma once
+
+#include <vector>
+
+#include "desktop/widgets/plate.h"
+
+namespace orvane {
+
+// Lines of at most `width` pixels at 100 per cent.
+QStringList BrokenLines(Type type, const QString& text, double width);
+
+class ReadingText : public Plate {
+ public:
+  using Plate::Plate;
+
+  // The gap, in device pixels of the desk: as wide as its blanks and as high as its line. Empty in
+  // a text without one.
+  QRectF Gap() const;
+  QStringList Lines() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  double TopOf(qsizetype line, qsizetype lines) const;  // device pixels of the face
+};
+
+// The letter over the gap of the reading text in the same window.
+class GreekLetter : public Plate {
+ public:
+  GreekLetter(WindowWidget& owner, Control& shown, QWidget& parent);
+
+  void Lay() override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QRectF gap_;  // device pixels of the desk
+};
+
+// "a", "b", "f" and "j" as they are drawn: alpha, beta and both shapes of phi.
+QString GreekOf(const QString& letter);
+
+}  // namespace orvane

@@ -1,0 +1,30 @@
+// Pictures that are no surface: the icon, a picture in a card.
+#pragma once
+
+#include "desktop/look/dress.h"
+#include "desktop/widgets/picture_widget.h"
+#include "desktop/widgets/plate.h"
+
+namespace orvane {
+
+class IconWidget : public Plate {
+ public:
+  using Plate::Plate;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+// An image box with round corners and an edge.
+class RoundPicture : public PictureWidget {
+ public:
+  RoundPicture(WindowWidget& owner, Control& shown, QWidget& parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const Dress& dress_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,11 @@
+// Which widget shows a control of the windows beside the main one, and of the music chooser.
+#pragma once
+
+#include "desktop/widgets/control_view.h"
+
+namespace orvane {
+
+// nullptr for a control that is shown by its kind alone.
+ControlView* MakeFurtherView(WindowWidget& window, Control& control, QWidget& parent);
+
+}  // namespace orvane

@@ -1,0 +1,65 @@
+// The windows of the desk on the screen: hears of each change of a control and shows it.
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include "controls/window.h"
+#include "desk/orvane_desk.h"
+#include "desktop/look/sight.h"
+#include "desktop/outside/qt_platform.h"
+#include "desktop/outside/ticker.h"
+#include "desktop/reader/accessible_words.h"
+#include "raster/raster.h"
+
+namespace orvane {
+
+class KeySheetWindow;
+class WindowWidget;
+
+class Skin : public ControlWatcher {
+ public:
+  Skin(Orvane_Desk& desk, QtPlatform& platform);
+  ~Skin() override;
+
+  Orvane_Desk& desk;
+  QtPlatform& platform;
+  Raster raster;  // shared by all pictures, for what it keeps between paints
+  Sight sight{desk};
+
+  void Changed(Control& control, Aspect aspect) override;
+
+  // Shows what the desk has on view from its start-up; the windows come and go by themselves then.
+  void ShowWindows();
+
+  // A window is made when it is first shown or asked for.
+  WindowWidget& WindowOf(Window& window);
+  QWidget* WidgetOf(const Control& control);
+
+  void ShowKeySheet();  // or closes it
+
+  // Pictures are painted together and at most once in a screen's beat, however often they were
+  // drawn on.
+  void RepaintSoon(QWidget& picture);
+
+ private:
+  void SetTimer(Timer& timer);
+  void TickOf(Timer& timer);
+  void RepaintNow();
+
+  std::unordered_map<const Window*, std::unique_ptr<WindowWidget>> windows_;
+  std::unordered_map<const Timer*, std::unique_ptr<Ticker>> tickers_;
+  std::unique_ptr<KeySheetWindow> sheet_;  // made when it is first asked for
+  AccessibleWords words_{*this};
+  std::vector<QPointer<QWidget>> waiting_;  // pictures to paint at the next beat
+  QTimer beat_;
+  QElapsedTimer since_beat_;
+};
+
+}  // namespace orvane
