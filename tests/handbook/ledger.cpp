@@ -4,6 +4,7 @@
 #include <array>
 #include <cctype>
 #include <gtest/gtest.h>
+#include <regex>
 #include <sstream>
 
 #include "house/source_tree.h"
@@ -27,7 +28,13 @@ std::string InOneLine(const std::string& text) {
   for (std::string line; std::getline(lines, line);) {
     if (line.starts_with("#")) continue;
     std::istringstream words(line);
-    for (std::string word; words >> word;) all += (all.empty() ? "" : " ") + word;
+    bool first = true;
+    for (std::string word; words >> word; first = false) {
+      // The number of a step or of an item of a list, as "**7.**" or "7." at the head of a line.
+      const bool counts = std::regex_match(word, std::regex(R"(\*\*[0-9]+\.\*\*)")) ||
+                          (first && std::regex_match(word, std::regex(R"([0-9]+\.)")));
+      if (!counts) all += (all.empty() ? "" : " ") + word;
+    }
   }
   return all;
 }
@@ -65,12 +72,13 @@ Ledger Ledger::OfPage(std::string_view path) {
 }
 
 Ledger::Ledger(std::string text) : text_(InOneLine(text)), accounted_(text_.size()) {
-  bool quoted = false, target = false;
+  bool quoted = false, target = false, picture = false;
   for (std::size_t i = 0; i < text_.size(); ++i) {
+    if (text_.compare(i, 2, "![") == 0) picture = true;
     if (text_[i] == '`') quoted = !quoted;
     if (text_[i] == '(' && i > 0 && text_[i - 1] == ']') target = true;
-    accounted_[i] = quoted || target;
-    if (text_[i] == ')') target = false;
+    accounted_[i] = quoted || target || picture;
+    if (text_[i] == ')') target = picture = false;
   }
 }
 
@@ -91,7 +99,7 @@ void Ledger::SaysBySource(std::string_view phrase) {
   std::size_t end = text_.find(". ", at + phrase.size());
   end = text_.find(". ", std::min(end, text_.size() - 1) + 1);
   const std::string sentence = text_.substr(at, std::min(end, text_.size()) - at);
-  EXPECT_NE(sentence.find("](sources.md#"), std::string::npos) << "no source behind: " << phrase;
+  EXPECT_NE(sentence.find("sources.md#"), std::string::npos) << "no source behind: " << phrase;
 }
 
 std::vector<std::string> Ledger::Unaccounted() const {
