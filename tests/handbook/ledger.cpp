@@ -71,7 +71,7 @@ Ledger Ledger::OfPage(std::string_view path) {
   return Ledger(text);
 }
 
-Ledger::Ledger(std::string text) : text_(InOneLine(text)), accounted_(text_.size()) {
+Ledger::Ledger(const std::string& text) : text_(InOneLine(text)), accounted_(text_.size()) {
   bool quoted = false, target = false, picture = false;
   for (std::size_t i = 0; i < text_.size(); ++i) {
     if (text_.compare(i, 2, "![") == 0) picture = true;

@@ -12,7 +12,7 @@ class Ledger {
   // The page, or a piece of its text. What stands between back quotes, in targets of links and in
   // headings is no claim.
   static Ledger OfPage(std::string_view path);
-  explicit Ledger(std::string text);
+  explicit Ledger(const std::string& text);
 
   // The page must say this, wherever its lines break; every place where it does is accounted for.
   void Says(std::string_view phrase);

@@ -7,13 +7,13 @@
 #include <map>
 #include <set>
 
+#include "commands/key_sheet.h"
 #include "draw/elements.h"
 #include "handbook/measured.h"
 #include "handbook/student.h"
-#include "ramachandran/hover.h"
-#include "reading/atom_words.h"
-#include "reading/recipe.h"
-#include "shell/key_sheet.h"
+#include "narration/atom_words.h"
+#include "narration/recipe.h"
+#include "ramachandran/map_names.h"
 #include "stock_check/constitution.h"
 #include "stock_check/geometry.h"
 
@@ -145,7 +145,9 @@ TEST(TheRecipe, SaysNoBondWhereChemistryHasNone) {
       const std::size_t name = from + 6;
       const std::string hangs_on = words.substr(name, words.find_first_of(" ,", name) - name);
       const auto [a, b] = std::minmax({student.Name(atom), hangs_on});
-      const bool bonded = std::find(bonds.begin(), bonds.end(), "1 " + a + "-" + b) != bonds.end();
+      std::string bond = "1 ";
+      bond.append(a).append("-").append(b);
+      const bool bonded = std::find(bonds.begin(), bonds.end(), bond) != bonds.end();
       EXPECT_EQ(words.find("(no bond)") == std::string::npos, bonded) << row.Key << ": " << words;
       without += bonded ? 0 : 1;
     }

@@ -356,27 +356,17 @@ void TheDipeptide(Ledger& page) {
   page.Says("H4 stands " + Value("PEP", "1:H4 1:C!", 2) + " from C in both residues");
 }
 
-// Turn and rise from residue to residue of a regular chain, by its alpha carbons.
-struct Screw {
-  double Turn = 0, Rise = 0;
-};
-Screw ScrewOf(const std::vector<Point>& trace) {
-  const auto bend = [&](std::size_t i) {
-    return Minus(Minus(trace[i + 2], trace[i + 1]), Minus(trace[i + 1], trace[i]));
-  };
-  Point axis = Unit(Cross(bend(0), bend(1)));
-  if (Dot(Minus(trace[1], trace[0]), axis) < 0) axis = Times(-1, axis);
-  const double sense = Dot(Cross(bend(0), bend(1)), axis);
-  return {(sense < 0 ? -1 : 1) * DegreesBetween(bend(0), bend(1)),
-          Dot(Minus(trace[1], trace[0]), axis)};
-}
-
 std::vector<Point> TraceOf(std::string_view key) {
   std::vector<Point> trace;
   for (const auto& atom : stock_check::WithoutCopies(RowOf(key)).Atoms) {
     if (atom.Name == "CA") trace.push_back(atom.At);
   }
   return trace;
+}
+
+Screw ScrewFrom(std::string_view key) {
+  const std::vector<Point> trace = TraceOf(key);
+  return ScrewOf({trace[0], trace[1], trace[2], trace[3]});
 }
 
 std::string ResidueCount(std::string_view key) { return CountWord(TraceOf(key).size()); }
@@ -419,7 +409,7 @@ double PeptideDeviation(std::string_view atoms) {
 }
 
 void TheHelices(Ledger& page) {
-  const Screw screw = ScrewOf(TraceOf("Alfa"));
+  const Screw screw = ScrewFrom("Alfa");
   EXPECT_GT(screw.Turn, 0);  // with the way along: right-handed
   page.Says(ResidueCount("Alfa") + " residues of the right-handed alpha helix");
   Torsions(page, "Alfa", "alpha helix: ", 4);
@@ -431,7 +421,9 @@ void TheHelices(Ledger& page) {
     EXPECT_EQ(Fixed(bond.NitrogenToOxygen, 2), "2.95");
   }
   page.Says("N of each residue with O of the fourth before it, " + CountWord(bonds.size()) +
-            " of 2.95, all along the axis");
+            " of 2.95, all along the axis; the rule of energies finds the same " +
+            CountWord(bonds.size()));
+  EXPECT_EQ(bonds.size(), RowOf("Alfa").HydrogenBonds.size());
   page.Says("N-CA-C is " + Value("Alfa", "4:N 4:CA 4:C", 1) + ", one degree below their mean");
   EXPECT_NEAR(PeptideMean("N CA C") - Measured("Alfa", "4:N 4:CA 4:C"), 1, 0.3);
   page.Says("so that N of the fourth residue stays clear of the first O (" +
@@ -484,7 +476,7 @@ void TheHelices(Ledger& page) {
 }
 
 void TheStrands(Ledger& page) {
-  const Screw screw = ScrewOf(TraceOf("Beta"));
+  const Screw screw = ScrewFrom("Beta");
   page.Says(ResidueCount("Beta") + " residues of an extended strand");
   Torsions(page, "Beta", "extended strand, ", 3);
   page.Says(Fixed(std::abs(screw.Rise), 2) + " a residue, nearly two residues a turn");

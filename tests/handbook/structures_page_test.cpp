@@ -72,7 +72,7 @@ TEST(StructuresPage, HasTheValuesThatThePanelShows) {
       std::vector<std::string> labels = SplitAt(parts[1], " - ");
       for (std::string& label : labels) {
         if (label.find(' ') == std::string::npos) {
-          label = std::to_string(RowOf(row.Key).Atoms.front().Residue) + " " + label;
+          label.insert(0, std::to_string(RowOf(row.Key).Atoms.front().Residue) + " ");
         }
       }
       const auto all_alone = [&] {
@@ -107,7 +107,7 @@ std::size_t DecimalsIn(const std::string& number) {
   return point == std::string::npos ? 0 : number.size() - point - 1;
 }
 
-std::string WithColons(std::string atoms) {  // "1 C! - 2 N!" to "1:C! 2:N!"
+std::string WithColons(const std::string& atoms) {  // "1 C! - 2 N!" to "1:C! 2:N!"
   std::string names;
   for (std::string label : SplitAt(atoms, " - ")) {
     const std::size_t blank = label.find(' ');

@@ -3,12 +3,12 @@
 #include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <numbers>
 #include <regex>
 #include <set>
 #include <sstream>
 
 #include "narration/chosen_row.h"
+#include "stock_check/geometry.h"
 
 namespace orvane {
 namespace {
@@ -54,21 +54,8 @@ std::vector<Said> Understood(const std::string& words) {
 // A torsion of the survey has its magnitude beyond a right angle: 180 less that of the atoms. The
 // torsion is measured here by the planes of its atoms.
 double Surveyed(const Molecule& m, int a, int b, int c, int d) {
-  const auto minus = [&](int to, int from) {
-    return std::array<double, 3>{m.AtomX[to] - m.AtomX[from], m.AtomY[to] - m.AtomY[from],
-                                 m.AtomZ[to] - m.AtomZ[from]};
-  };
-  const auto cross = [](const auto& u, const auto& v) {
-    return std::array<double, 3>{u[1] * v[2] - u[2] * v[1], u[2] * v[0] - u[0] * v[2],
-                                 u[0] * v[1] - u[1] * v[0]};
-  };
-  const auto dot = [](const auto& u, const auto& v) {
-    return u[0] * v[0] + u[1] * v[1] + u[2] * v[2];
-  };
-  const auto first = cross(minus(b, a), minus(c, b)), second = cross(minus(c, b), minus(d, c));
-  const double true_one =
-      std::acos(dot(first, second) / std::sqrt(dot(first, first) * dot(second, second))) * 180 /
-      std::numbers::pi;
+  const auto at = [&](int atom) { return Point{m.AtomX[atom], m.AtomY[atom], m.AtomZ[atom]}; };
+  const double true_one = std::abs(TorsionOf(at(a), at(b), at(c), at(d)));
   return std::max(true_one, 180 - true_one);
 }
 

@@ -11,6 +11,7 @@
 #include "narration/names.h"
 #include "stock/catalogue_tables.h"
 #include "stock/generator.h"
+#include "stock_check/geometry.h"
 
 namespace orvane {
 namespace {
@@ -83,32 +84,13 @@ TEST_F(RecipeTest, StaysTheSameHoweverTheViewIsTurned) {
   EXPECT_EQ(Recipe(13), before);
 }
 
-// ---- The words against the atoms as read, by vectors of this test's own. ----
+// ---- The words against the atoms as read, by routines that are not the recipe's own. ----
 
-using Vector = std::array<double, 3>;
-
-double Dot(const Vector& a, const Vector& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
-double Norm(const Vector& a) { return std::sqrt(Dot(a, a)); }
-Vector Scaled(const Vector& a, double by) { return {a[0] * by, a[1] * by, a[2] * by}; }
-Vector Minus(const Vector& a, const Vector& b) { return {a[0] - b[0], a[1] - b[1], a[2] - b[2]}; }
 double InDegrees(double radians) { return radians * 180 / std::numbers::pi; }
 
-double AngleBetween(const Vector& a, const Vector& b) {
-  return InDegrees(std::acos(Dot(a, b) / (Norm(a) * Norm(b))));
-}
-// What is left of a without its part along the axis.
-Vector Across(const Vector& a, const Vector& axis) {
-  return Minus(a, Scaled(axis, Dot(a, axis) / Dot(axis, axis)));
-}
-// Positive: seen from b towards c, d is clockwise of a; then (a x d) points along b - c.
-double TorsionOf(const Vector& a, const Vector& b, const Vector& c, const Vector& d) {
-  const Vector axis = Minus(c, b);
-  const Vector near = Across(Minus(a, b), axis), far = Across(Minus(d, c), axis);
-  const double turn = AngleBetween(near, far);
-  const double triple = axis[0] * (near[1] * far[2] - near[2] * far[1]) +
-                        axis[1] * (near[2] * far[0] - near[0] * far[2]) +
-                        axis[2] * (near[0] * far[1] - near[1] * far[0]);
-  return triple < 0 ? -turn : turn;
+// How far a stands from the line through b and c.
+double FromAxis(const Point& a, const Point& b, const Point& c) {
+  return LengthOf(Cross(Minus(a, b), Unit(Minus(c, b))));
 }
 
 struct Said {
@@ -159,22 +141,21 @@ TEST_P(RecipeOf, AgreesWithTheAtomsAsTheyWereRead) {
   };
   const auto place = [&](std::string_view name) {
     const int i = number(name);
-    return Vector{molecule.AtomX[i], molecule.AtomY[i], molecule.AtomZ[i]};
+    return Point{molecule.AtomX[i], molecule.AtomY[i], molecule.AtomZ[i]};
   };
   for (int i = 6; i <= molecule.AtomCount; ++i) {
     const std::string words = RecipeWords(work.desk, i);
     const Said said = Understood(words);
     EXPECT_EQ(number(said.Names[0]), i) << words;
-    const Vector a = place(said.Names[0]), b = place(said.Names[1]);
-    const Vector c = place(said.Names[2]), d = place(said.Names[3]);
-    EXPECT_NEAR(Norm(Minus(a, b)), said.Length, kLengthOff) << words;
+    const Point a = place(said.Names[0]), b = place(said.Names[1]);
+    const Point c = place(said.Names[2]), d = place(said.Names[3]);
+    EXPECT_NEAR(Apart(a, b), said.Length, kLengthOff) << words;
 
-    const double arm = std::min(Norm(Minus(a, b)), Norm(Minus(c, b)));
+    const double arm = std::min(Apart(a, b), Apart(c, b));
     const double angle_off = 0.051 + InDegrees(2 * kLengthOff / arm);
-    EXPECT_NEAR(AngleBetween(Minus(a, b), Minus(c, b)), said.Angle, angle_off) << words;
+    EXPECT_NEAR(AngleAt(a, b, c), said.Angle, angle_off) << words;
 
-    const Vector axis = Minus(c, b);
-    const double side = std::min(Norm(Across(Minus(a, b), axis)), Norm(Across(Minus(d, c), axis)));
+    const double side = std::min(FromAxis(a, b, c), FromAxis(d, b, c));
     const double torsion_off = 0.051 + InDegrees(2 * kLengthOff / side);
     EXPECT_NEAR(std::remainder(TorsionOf(a, b, c, d) - said.Torsion, 360), 0, torsion_off) << words;
     EXPECT_EQ(said.NoBond, said.Length > kBondLimit) << words;

@@ -8,6 +8,7 @@
 
 #include "core/records.h"
 #include "desk_fixture.h"
+#include "stock_check/geometry.h"
 
 namespace orvane {
 namespace {
@@ -62,17 +63,11 @@ TEST_F(SurveyTest, AStepThatMeetsAnAlphaCarbonAfterAGlycineIsUsedAsItIs) {
   // The acute angle between the planes a, b, c and b, c, d, which is all that is left of a torsion
   // without quadrants.
   const auto acute = [&](int a, int b, int c, int d) {
-    const auto to = [&](int from, int end) {
-      return Point{atoms.AtomX[end] - atoms.AtomX[from], atoms.AtomY[end] - atoms.AtomY[from],
-                   atoms.AtomZ[end] - atoms.AtomZ[from]};
+    const auto at = [&](int atom) {
+      return Point{atoms.AtomX[atom], atoms.AtomY[atom], atoms.AtomZ[atom]};
     };
-    const auto cross = [](Point p, Point q) {
-      return Point{p.Y * q.Z - p.Z * q.Y, p.Z * q.X - p.X * q.Z, p.X * q.Y - p.Y * q.X};
-    };
-    const auto dot = [](Point p, Point q) { return p.X * q.X + p.Y * q.Y + p.Z * q.Z; };
-    const Point m = cross(to(a, b), to(b, c)), n = cross(to(b, c), to(c, d));
-    const double degree = std::acos(-1.0) / 180;
-    return std::acos(std::fabs(dot(m, n)) / std::sqrt(dot(m, m) * dot(n, n))) / degree;
+    const double size = std::abs(TorsionOf(at(a), at(b), at(c), at(d)));
+    return std::min(size, 180 - size);
   };
   // A row holds its place in the area; back from there to its angle.
   const auto& survey = desk.survey;

@@ -1,7 +1,5 @@
-#include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <numbers>
 
 #include "stock/chain_checks.h"
 
@@ -12,29 +10,19 @@ using testing::UnorderedElementsAre;
 
 constexpr PeptideGeometry kHelix = {.NCAC = 110.0, .CACN = 116.2, .CACO = 120.8, .OCN = 123.0};
 
-// Turn and rise of the screw that carries each alpha carbon to the next, from four in a row. The
-// bisectors at the two inner ones stand at right angles to the axis, and the turn is the angle
-// between them. Both figures are positive for a right-handed screw.
-struct Screw {
-  double Turn = 0;  // degrees
-  double Rise = 0;  // Angstrom
-};
-Screw ScrewOf(const Structure& structure, int first) {
+// Of the alpha carbon of a residue and the next three.
+Screw ScrewFrom(const Structure& structure, int first) {
   const auto carbon = [&](int step) {
     return structure.At(structure.Atom(std::to_string(first + step) + " CA"));
   };
-  const Point second = Unit(Minus(Minus(carbon(0), carbon(1)), Minus(carbon(1), carbon(2))));
-  const Point third = Unit(Minus(Minus(carbon(1), carbon(2)), Minus(carbon(2), carbon(3))));
-  const Point axis = Unit(Cross(second, third));
-  return {std::acos(Dot(second, third)) * 180 / std::numbers::pi,
-          Dot(Minus(carbon(2), carbon(1)), axis)};
+  return ScrewOf({carbon(0), carbon(1), carbon(2), carbon(3)});
 }
 
 void ExpectHelix(Structure& structure, int residues, const char* side) {
   ExpectPeptide(structure, 1, residues, side, kHelix);
   ExpectTorsions(structure, 1, residues, -57, -47, kTorsionSlack);
   for (int first = 1; first + 3 <= residues; ++first) {
-    const Screw screw = ScrewOf(structure, first);
+    const Screw screw = ScrewFrom(structure, first);
     EXPECT_GE(screw.Rise, 1.50);
     EXPECT_LE(screw.Rise, 1.53);
     EXPECT_GE(360 / screw.Turn, 3.58);

@@ -96,13 +96,14 @@ constexpr std::string_view kHead = R"(# The bends of the amino acids
 
 Orvane builds the twenty amino acids from a table of lengths and angles. The table is given, and it is not
 true everywhere. This page lists what is bent: each length and angle of each of the twenty has been measured
-and held against the means of crystal structures (Engh and Huber 2001, in
-[the sources](sources.md#engh-huber-2001)). What is more than three standard deviations off, or more than
+and held against the means of crystal structures
+([Engh Huber 2001](sources.md#engh-huber-2001)). What is more than three standard deviations off, or more than
 five degrees, stands here; what does not stand here is nearer than that. Atoms that should lie in a plane
 with their neighbours are listed from 0.05 on, torsions of bonds that do not turn from five degrees on, and
 two atoms that are not bonded when they overlap by more than 0.4
 ([Bondi 1964](sources.md#bondi-1964)). For angles at hydrogens the true value is that of a regular
 tetrahedron. Lengths are in Angstrom, angles in degrees; behind the sign ± stands the standard deviation.
+Torsions stand here as they are; the panel shows one of less than 90 by its supplement.
 
 The page is written by the tool `orvane-stock-check --bends`, and a test compares it with the atoms. The
 general amino acid has the bends that stand under the first heading; the dipeptide has its own, and
@@ -145,7 +146,7 @@ constexpr std::string_view kUnderCommon = R"(
 The form is called a zwitterion, whose carboxylate shares its charge between two oxygens alike. It is drawn
 with C - O $CO and C - O2 $CO2, as if one bond were nearly double and the other nearly single; both should be
 near $TRUE. Bonds to hydrogen are drawn at 1.00, which is too short
-([Allen and Bruno 2010](sources.md#allen-bruno-2010)). *Measure instead:* N - CA $NCA, CA - C $CAC and
+([Allen Bruno 2010](sources.md#allen-bruno-2010)). *Measure instead:* N - CA $NCA, CA - C $CAC and
 N - CA - C $NCAC are right in all of them.
 )";
 

@@ -116,6 +116,17 @@ double BetweenPlanes(const Plane& a, const Plane& b) {
   return std::min(angle, 180 - angle);
 }
 
+Screw ScrewOf(const std::array<Point, 4>& points) {
+  // The bisectors at the two inner points stand at right angles to the axis, and the turn is the
+  // angle between them.
+  const auto bisector = [&](std::size_t i) {
+    return Minus(Minus(points[i - 1], points[i]), Minus(points[i], points[i + 1]));
+  };
+  const Point axis = Unit(Cross(bisector(1), bisector(2)));
+  const double along = Dot(Minus(points[2], points[1]), axis);
+  return {std::copysign(DegreesBetween(bisector(1), bisector(2)), along), std::abs(along)};
+}
+
 Pucker PuckerOf(const std::array<Point, 5>& ring) {
   // Torsion k is about the k-th bond of the ring, counted from the one between oxygen and C1.
   const auto torsion = [&](std::size_t k) {

@@ -40,6 +40,13 @@ double FromPlane(const Plane& plane, const Point& point);  // with a sign
 double FarthestFromPlane(std::span<const Point> points);
 double BetweenPlanes(const Plane& a, const Plane& b);  // 0 to 90
 
+// The screw that carries each of four points to the next, as the alpha carbons of a regular chain.
+struct Screw {
+  double Turn = 0;  // degrees; positive for a right-handed screw
+  double Rise = 0;  // Angstrom along the axis
+};
+Screw ScrewOf(const std::array<Point, 4>& points);
+
 // How a five-membered ring is bent: the phase from 0 to 360, near 18 for C3'-endo and near 162 for
 // C2'-endo, and the largest torsion (C. Altona and M. Sundaralingam, 1972). The ring begins with
 // the oxygen and goes on with the carbon that bears the base.
