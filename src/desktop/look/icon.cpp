@@ -13,7 +13,7 @@ constexpr double kSide = 128, kEdge = 2, kCorner = 27;  // corner: 22 per cent o
 constexpr double kRing = 36, kSwing = 7;  // a strand is a circle that swings three times
 constexpr double kWidth = 10.5, kGap = 2;
 constexpr double kAtom = 9;
-constexpr int kLeastWithGaps = 32;  // pixels; smaller, the gaps would eat the strands
+constexpr int kLeastWithGaps = 32;  // pixels; in a smaller icon the gaps would eat the strands
 
 constexpr QRgb kTop = 0xFF1B2A35, kBottom = 0xFF0D151B, kShade = 0xFF131D25;
 constexpr QRgb kStrands[] = {0xFF35B7C9, 0xFFF2F6F8};
@@ -59,7 +59,8 @@ void PaintIcon(QPainter& painter, const QRectF& box) {
   painter.drawRoundedRect(QRectF(kEdge, kEdge, kSide - 2 * kEdge, kSide - 2 * kEdge), kCorner,
                           kCorner);
 
-  // The strands cross at every sixth of the turn, above in turns. What lies below comes first.
+  // The strands cross at every sixth of the turn, each above in turn. What lies below is drawn
+  // first.
   for (const bool above : {false, true}) {
     for (int crossing = 0; crossing < 6; ++crossing) {
       const int strand = (crossing % 2 == 0) == above ? 0 : 1;

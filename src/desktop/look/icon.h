@@ -1,4 +1,4 @@
-// The program's icon: two strands that cross six times round one red atom. packaging/icons holds
+// The program's icon: two strands that cross six times around one red atom. packaging/icons holds
 // the same drawing for the desktop's menus.
 #pragma once
 

@@ -1,5 +1,5 @@
 // One fixed style: the toolkit's own drawing in the palette of the program, with menus and tooltips
-// of its own. A dark or coloured theme of the desktop does not reach the windows.
+// of its own. A dark or coloured desktop theme does not affect the windows.
 #pragma once
 
 #include <QApplication>
@@ -7,17 +7,17 @@
 
 namespace orvane {
 
-// Style, palette and type, before the first window.
+// Sets style, palette and type, before the first window.
 void DressApplication(QApplication& application);
 
-// Tips in the size of the desk that they come up over; never smaller than at 100 per cent.
+// Sets tips to the size of the desk that they appear over; never smaller than at 100 per cent.
 void SizeTips(double factor);
 
 class LookStyle : public QProxyStyle {
  public:
   LookStyle();
 
-  static double FactorOf(const QWidget* widget);  // of the maximised desk whose menu it is
+  static double FactorOf(const QWidget* widget);  // of the maximised desk that the menu belongs to
 
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;

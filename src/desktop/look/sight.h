@@ -1,5 +1,5 @@
-// For whose eyes the screen shows the pictures of the molecule. The last step to the screen, and of
-// nothing else: strokes, stored pixels, files, frames and paper never come by here.
+// For whose eyes the screen shows the pictures of the molecule. It is the last step to the screen
+// only: strokes, stored pixels, files, frames and paper never pass through here.
 #pragma once
 
 #include <optional>
@@ -22,13 +22,13 @@ class Sight {
   // Without a filter at the start; then protan, deutan, tritan, and without again.
   void Next();
   bool IsFiltered() const { return filter_.has_value(); }
-  QString Words() const;  // which it is, for the user
+  QString Words() const;  // which one it is, in words for the user
 
   // What the screen shows for a picture of the main window, and for a colour there.
   const QImage& Shown(const QImage& picture);
   QRgb Shown(QRgb colour) const;
 
-  // While one of these lives, what is painted leaves the program and is shown as it is.
+  // While an object of this class exists, what is painted leaves the program and is not filtered.
   class Leaving {
    public:
     explicit Leaving(Sight& of) : sight_(of) { ++sight_.leaving_; }
@@ -45,14 +45,14 @@ class Sight {
 
   std::optional<Eye> eye_;
   std::optional<DisplayFilter> filter_;
-  QImage shown_;  // of the picture that was painted last
+  QImage shown_;  // the last picture that was painted
   int leaving_ = 0;
 };
 
-// F8, wherever the keyboard is in the window, which need not be that of the pictures.
+// F8, wherever the keyboard is in the window, even in one without the pictures.
 void GiveSightItsKey(Sight& sight, QWidget& window, QWidget& told_over);
 
-// The next sight, with every picture painted anew and a word about it.
+// Goes to the next sight, repaints every picture and says which sight it is.
 void TurnSight(Sight& sight, QWidget& told_over);
 
 }  // namespace orvane

@@ -5,8 +5,8 @@
 
 namespace orvane {
 
-// It lies beside the program: the same two steps lead there from where it is built and from where
-// it is installed.
+// The library lies beside the program: the same relative path leads there from where it is built
+// and from where it is installed.
 std::unique_ptr<Sound> MakeSound() {
   QLibrary library(QCoreApplication::applicationDirPath() +
                    QStringLiteral("/../lib/orvane/liborvane_sound.so"));

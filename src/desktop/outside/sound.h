@@ -1,6 +1,5 @@
-// One sound file at a time. What plays it is a library of its own, since most lessons are silent:
-// it brings twenty libraries more into the program, and none of them is loaded before the first
-// file is opened.
+// One sound file at a time. A separate library plays it, since most lessons are silent: it needs
+// twenty more libraries, and none of them is loaded before the first file is opened.
 #pragma once
 
 #include <memory>
@@ -8,10 +7,10 @@
 
 namespace orvane {
 
-// Why a file was not opened, as it is numbered to the user; 0: it is open.
+// Why a file was not opened, by the number that the user sees; 0: it is open.
 inline constexpr int kSoundOpen = 0;
 inline constexpr int kSoundNotThere = 1;  // no such file, or it cannot be read
-inline constexpr int kSoundNotSound = 2;  // empty, or no sound that can be decoded
+inline constexpr int kSoundNotSound = 2;  // empty, or not a sound that can be decoded
 inline constexpr int kSoundNoAnswer = 3;  // the decoder did not answer in time
 inline constexpr int kSoundNoPlayer = 4;  // the library that plays is not installed
 
@@ -27,7 +26,7 @@ class Sound {
   virtual int Length() const = 0;  // milliseconds
 };
 
-// Loads the library at the first call; null where it is not installed.
+// Loads the library at the first call; nullptr where it is not installed.
 std::unique_ptr<Sound> MakeSound();
 
 }  // namespace orvane

@@ -10,10 +10,10 @@
 namespace orvane {
 namespace {
 
-constexpr int kPatience = 3000;  // milliseconds until a decoder must have answered
+constexpr int kPatience = 3000;  // milliseconds in which a decoder must answer
 
-// Of the toolkit's two decoders one brings all it needs; the other stops the whole program where
-// its own add-ons are not installed.
+// Of the toolkit's two decoders, one brings all it needs; the other stops the whole program where
+// its add-ons are not installed.
 void ChooseDecoder() {
   constexpr const char* kChoice = "QT_MEDIA_BACKEND";
   if (!qEnvironmentVariableIsSet(kChoice)) qputenv(kChoice, "ffmpeg");
@@ -45,7 +45,7 @@ int SoundPlayer::Open(const std::string& path) {
   return answer;
 }
 
-// Only the decoder's own events run meanwhile: the user's wait until the command is over.
+// Meanwhile only the decoder's own events run; the user's events wait until the command is over.
 int SoundPlayer::WaitForAnswer() {
   const auto answered = [this] {
     return IsLoaded(player_->mediaStatus()) || player_->error() != QMediaPlayer::NoError ||
@@ -83,5 +83,5 @@ int SoundPlayer::Length() const { return open_ ? static_cast<int>(player_->durat
 
 }  // namespace orvane
 
-// What the program asks the library for, under a name that no compiler changes.
+// What the program looks up in the library, under a name that no compiler changes.
 extern "C" Q_DECL_EXPORT orvane::Sound* OrvaneMakeSound() { return new orvane::SoundPlayer; }

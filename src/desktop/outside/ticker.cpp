@@ -41,7 +41,7 @@ void Ticker::Stop() {
   Wind(0);
 }
 
-// From now on a beat each `interval` milliseconds; 0: none, and those not read yet are forgotten.
+// From now on there is a beat every `interval` milliseconds; 0: none, and unread beats are dropped.
 void Ticker::Wind(int interval) {
   itimerspec beats{};
   beats.it_interval.tv_sec = interval / 1000;

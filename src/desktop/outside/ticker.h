@@ -1,7 +1,7 @@
-// A timer that keeps its beat. The toolkit's own waits in whole milliseconds and begins each wait
-// where the last tick ended, so at one millisecond a tick that meets a paint comes a whole beat
-// late. Here the system counts the beats, whatever the program does meanwhile: a tick that is late
-// is not followed by a wait, and beats that nobody could answer are dropped.
+// A timer that keeps its beat. The toolkit's own timer waits in whole milliseconds and begins each
+// wait when the last tick ended, so at one millisecond a tick that meets a paint comes a whole beat
+// late. Here the system counts the beats, whatever the program does meanwhile: a late tick is not
+// followed by a wait, and beats that could not be answered are dropped.
 #pragma once
 
 #include <functional>
@@ -16,12 +16,12 @@ class Ticker : public QObject {
   explicit Ticker(std::function<void()> tick);
   ~Ticker() override;
 
-  void Start(int interval);  // milliseconds; a running one begins anew if that is another interval
+  void Start(int interval);  // milliseconds; a running ticker restarts if the interval is new
   void Stop();
   bool IsActive() const { return interval_ > 0; }
 
  protected:
-  void timerEvent(QTimerEvent* event) override;  // where the system has no such clock to give
+  void timerEvent(QTimerEvent* event) override;  // where the system gives no such clock
 
  private:
   void Beat();
@@ -29,7 +29,7 @@ class Ticker : public QObject {
   void Run();
 
   std::function<void()> tick_;
-  int clock_;  // a file of the system that can be read when a beat has come; or -1
+  int clock_;  // a system file that can be read when a beat has come; or -1
   QSocketNotifier notifier_;
   int toolkit_timer_ = 0;
   int interval_ = 0;

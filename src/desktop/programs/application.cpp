@@ -5,7 +5,7 @@
 namespace orvane {
 namespace {
 
-// The desktop's settings are read while the application is made.
+// The desktop's settings are read while the application is being made.
 int& WithoutDesktopSettings(int& count) {
   QApplication::setDesktopSettingsAware(false);
   return count;

@@ -1,6 +1,6 @@
-// The toolkit's application as every program of windows here wants it: in the type and style of the
-// desk whatever the desktop around it wears, and living on when its last window goes, since the
-// desk says when the program ends.
+// The toolkit's application as every program with windows here needs it: in the type and style of
+// the desk, whatever the desktop's theme, and alive after its last window closes, since the desk
+// decides when the program ends.
 #pragma once
 
 #include <QApplication>

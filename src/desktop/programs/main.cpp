@@ -12,8 +12,8 @@
 
 namespace {
 
-// Milliseconds. The icon is painted in eight sizes, which takes as long as the whole first window:
-// that one shall stand first.
+// Milliseconds. The icon is painted in eight sizes, which takes as long as the whole first window,
+// so the window comes first.
 constexpr int kIconAfter = 200;
 
 }  // namespace
@@ -21,7 +21,7 @@ constexpr int kIconAfter = 200;
 int main(int count, char** words) {
   orvane::Application application(count, words);
   QApplication::setApplicationName(QStringLiteral("Orvane"));
-  // The entry that gives the window its icon where windows have none of their own.
+  // The desktop entry that gives a window its icon where windows have none of their own.
   QGuiApplication::setDesktopFileName(QStringLiteral("orvane"));
 
   orvane::QtPlatform platform;

@@ -31,7 +31,7 @@ QVariant AccessibleBar::currentValue() const {
   return bar == nullptr ? QVariant() : QVariant(bar->value());
 }
 
-// After the reader's call, as actions are: the step may open a box.
+// Runs after the reader's call, as actions do: the step may open a box.
 void AccessibleBar::setCurrentValue(const QVariant& value) {
   QWidget* shown = widget();
   QTimer::singleShot(0, shown, [shown, to = value.toInt()] {

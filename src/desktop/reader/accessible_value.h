@@ -1,4 +1,4 @@
-// Controls with a value for a screen reader: a bar, and the closed list of the drives.
+// Controls with a value, for a screen reader: a bar, and the closed list of the drives.
 #pragma once
 
 #include "desktop/reader/accessible_widget.h"
@@ -28,7 +28,7 @@ class AccessibleBar : public AccessibleControl, public QAccessibleValueInterface
   BarWidget* Bar() const;
 };
 
-// Its value is the open drive; a press opens the menu of all.
+// Its value is the open drive; a press opens the menu of all drives.
 class AccessibleDrives : public AccessibleControl {
  public:
   using AccessibleControl::AccessibleControl;

@@ -5,7 +5,7 @@ namespace {
 
 using namespace palette;
 
-constexpr double kRingOut = 4, kRingWidth = 1.5;  // pixels round the button
+constexpr double kRingOut = 4, kRingWidth = 1.5;  // pixels around the button
 
 }  // namespace
 

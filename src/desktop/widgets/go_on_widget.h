@@ -1,5 +1,5 @@
-// The round button that leads on to the next window. It has the keyboard at the start, so Enter
-// goes on.
+// The round button that leads to the next window. It has the keyboard at the start, so Enter goes
+// on.
 #pragma once
 
 #include "desktop/widgets/plate.h"

@@ -1,4 +1,4 @@
-// The main picture: it takes the keyboard, and shows where the keyboard stands on it.
+// The main picture: it takes the keyboard, and shows at which atom the walk by keys stands.
 #pragma once
 
 #include "desktop/widgets/picture_widget.h"
@@ -14,7 +14,7 @@ class KeyedPicture : public PictureWidget {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
-  bool by_keys_ = false;  // the keyboard came by a key, not by a press of the pointer
+  bool by_keys_ = false;  // the keyboard came here by a key, not by a press of the pointer
 };
 
 }  // namespace orvane

@@ -1,4 +1,4 @@
-// The frame round the map, its caption broken into the upper line.
+// The frame around the map; its caption interrupts the upper line.
 #pragma once
 
 #include "desktop/widgets/plate.h"

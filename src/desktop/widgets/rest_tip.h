@@ -1,4 +1,4 @@
-// The tip over what the pointer rests on inside a picture: an atom, a circle of the map.
+// The tip for what the pointer rests on inside a picture: an atom, a circle of the map.
 #pragma once
 
 #include <QHelpEvent>
@@ -11,15 +11,15 @@ class RestTip {
  public:
   explicit RestTip(const ControlView& view) : view_(view) {}
 
-  // Shows the words for that place until the pointer leaves it. False: there are none, and the tip
-  // of the control itself is due.
+  // Shows the words for that place until the pointer leaves it. False: there are none, and the
+  // control's own tip should show.
   bool Answer(const QHelpEvent& rest);
-  // The picture has changed, and what was named may stand elsewhere.
+  // The picture has changed, and what was named may be elsewhere.
   void Drop();
 
  private:
   const ControlView& view_;
-  QString shown_;  // the words of the last tip, which may be gone by now
+  QString shown_;  // the words of the last tip, which may have gone by now
 };
 
 }  // namespace orvane

@@ -1,5 +1,5 @@
-// The turn of a wheel in whole notches. Touchpads and fine wheels turn by parts of a notch; a part
-// is kept until the next makes it whole, and dropped when the wheel turns back.
+// The turn of a wheel in whole notches. Touchpads and fine wheels turn by parts of a notch; the
+// parts are kept until they make a whole one, and dropped when the wheel turns back.
 #pragma once
 
 #include <QWheelEvent>

@@ -1,5 +1,5 @@
-// The window of the sheet behind F1. Escape, F1 or its frame close it; it stands beside the others
-// and keeps nothing waiting.
+// The window of the sheet behind F1. Escape, F1 or its frame close it. It opens beside the other
+// windows and does not block them.
 #pragma once
 
 #include <vector>
@@ -24,7 +24,7 @@ class KeySheetWindow : public QWidget {
 
  private:
   std::vector<SheetSection> sections_ = KeySheet();
-  QPointer<QWidget> from_;  // who had the keyboard
+  QPointer<QWidget> from_;  // the window that had the keyboard
 };
 
 }  // namespace orvane

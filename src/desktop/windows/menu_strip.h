@@ -15,7 +15,7 @@ class MenuStrip : public QMenuBar {
   MenuStrip(WindowWidget& window, QWidget& desk);
 
   void Lay();
-  void Take(Control& entry);  // something of an entry has changed
+  void Take(Control& entry);  // something in an entry has changed
   QAction* ActionOf(const Control& entry) const { return actions_.value(&entry); }
 
  private:

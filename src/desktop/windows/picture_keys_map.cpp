@@ -58,7 +58,7 @@ bool DoKey(WindowWidget& window, KeyPlace where, const QKeyEvent& event) {
   return true;
 }
 
-// The pair of views takes the picture's place, and gives it back: the keyboard goes along.
+// When the pair of views takes the picture's place, or gives it back, the keyboard follows.
 void StayOnPicture(WindowWidget& window) {
   const DeskKey* jump = FindDeskKey(KeyPlace::Desk, "F6");
   if (!IsOnPicture(window) && window.isActiveWindow()) jump->Do(window.skin.desk);
@@ -66,8 +66,8 @@ void StayOnPicture(WindowWidget& window) {
 
 }  // namespace
 
-// Where a sign stands on a keyboard, and whether Shift is needed for it, differs from country to
-// country: Shift counts with letters and with keys that have no sign.
+// Where a sign is on a keyboard, and whether it needs Shift, differs from country to country. So
+// Shift counts only with letters and with keys that have no sign.
 std::string KeyNameOf(const QKeyEvent& event) {
   if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return "";
   const std::string name = NameOfCode(event.key());

@@ -1,4 +1,4 @@
-// From the toolkit's keys to those of the desk's table.
+// Translates the toolkit's keys to those of the desk's table.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ class WindowWidget;
 // "Left", "Shift+M", "+", "F6"; empty for a key with Ctrl, Alt or the like.
 std::string KeyNameOf(const QKeyEvent& event);
 
-// What a key does that no control of the window has taken. False: nothing.
+// Does what belongs to a key that no control of the window has taken. False: nothing does.
 bool AnswerKey(WindowWidget& window, const QKeyEvent& event);
 
 }  // namespace orvane
