@@ -16,6 +16,8 @@ class FakePlatform : public Platform {
   // "ask PROMPT | TITLE", "save FORMAT NAME SOURCE", "print WINDOW", "sound open PATH", "end".
   std::vector<std::string> Effects;
   std::deque<std::string> Answers;      // replies to input boxes; with none left: cancelled
+  bool AnswersLater = false;            // a question stays open until somebody calls Answer
+  bool HasBoxUp = false;                // the desk is held
   std::function<void()> PendingEvents;  // runs inside LetEventsRun
   std::string SaveFails;                // not empty: every save fails with this clause
   bool HasPrinter = true;
@@ -25,13 +27,16 @@ class FakePlatform : public Platform {
   void MessageBox(std::string_view text) override { Keep("message ", text); }
   void WarningBox(std::string_view text) override { Keep("warning ", text); }
   void FailureBox(std::string_view text) override { Keep("failure ", text); }
-  std::string InputBox(std::string_view prompt, std::string_view title) override {
+  std::optional<std::string> InputBox(std::string_view prompt, std::string_view title) override {
     Effects.push_back("ask " + std::string(prompt) + " | " + std::string(title));
+    HasBoxUp = AnswersLater;
+    if (AnswersLater) return std::nullopt;
     if (Answers.empty()) return "";
     std::string answer = Answers.front();
     Answers.pop_front();
     return answer;
   }
+  bool BoxIsUp() const override { return HasBoxUp; }
   void LetEventsRun() override {
     if (PendingEvents) PendingEvents();
   }

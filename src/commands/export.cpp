@@ -1,12 +1,17 @@
 #include "commands/export.h"
 
+#include <memory>
+#include <utility>
+
 #include "commands/spin.h"
+#include "desk/actions.h"
 #include "output/picture_file.h"
 
 namespace orvane {
 namespace {
 
-// Shows the hourglass until the end of the command, even when the save fails.
+// Shows the hourglass until the end of the command: while its question is open, and even when the
+// save fails.
 class Hourglass {
  public:
   explicit Hourglass(MainWindow& window) : window_(window) {
@@ -14,10 +19,15 @@ class Hourglass {
   }
   Hourglass(const Hourglass&) = delete;
   Hourglass& operator=(const Hourglass&) = delete;
-  ~Hourglass() { window_.MousePointer = kPointerDefault; }
+  ~Hourglass() { End(); }
+
+  void End() {
+    if (std::exchange(shown_, false)) window_.MousePointer = kPointerDefault;
+  }
 
  private:
   MainWindow& window_;
+  bool shown_ = true;
 };
 
 struct SaveCommand {
@@ -28,37 +38,54 @@ constexpr SaveCommand kBmp{{FileFormat::Bmp, ".bmp"}, "Output BMP format"};
 constexpr SaveCommand kJpeg{{FileFormat::Jpeg, ".jpg"}, "Output JPEG format"};
 constexpr SaveCommand kGif{{FileFormat::Gif, ".gif"}, "Output GIF format"};
 
-std::string AskForName(Orvane_Desk& desk, const SaveCommand& command) {
-  return desk.platform.InputBox("Type in file name", command.Title);
+void AskForName(Orvane_Desk& desk, Control& asking, const SaveCommand& command,
+                std::function<void(const std::string&)> then) {
+  Ask(desk, asking, "Type in file name", command.Title, std::move(then));
 }
 
-void SavePlain(Orvane_Desk& desk, const SaveCommand& command) {
-  const Hourglass hourglass(desk.main);
-  WritePicture(desk, command.Format, AskForName(desk, command), false);
+void SavePlain(Orvane_Desk& desk, Control& asking, const SaveCommand& command) {
+  const auto hourglass = std::make_shared<Hourglass>(desk.main);
+  AskForName(desk, asking, command, [&desk, &command, hourglass](const std::string& name) {
+    WritePicture(desk, command.Format, name, false);
+  });
 }
 
-}  // namespace
-
-void S_bmp_Click(Orvane_Desk& desk) { SavePlain(desk, kBmp); }
-
-void S_JPG_Click(Orvane_Desk& desk) {
-  desk.recording.GifRecording = 0;
-  SavePlain(desk, kJpeg);
-}
-
-void S_Gif_Click(Orvane_Desk& desk) {
-  const Hourglass hourglass(desk.main);
-  const bool recording = desk.recording.GifRecording != 0;
-  std::string name = desk.recording.GifBaseName;
-  if (!recording || desk.recording.GifFrame == 0) {
-    name = AskForName(desk, kGif);
-    desk.recording.GifBaseName = name;
-  }
+void WriteGif(Orvane_Desk& desk, const std::string& name, bool recording) {
   if (name.empty() && desk.recording.GifRecording != 0) {
     desk.recording.GifRecording = 0;
     P_Auto_Rotate_Click(desk);
   }
   WritePicture(desk, kGif.Format, name, recording);
+}
+
+}  // namespace
+
+void S_bmp_Click(Orvane_Desk& desk) { SavePlain(desk, desk.main.S_bmp, kBmp); }
+
+void S_JPG_Click(Orvane_Desk& desk) {
+  desk.recording.GifRecording = 0;
+  SavePlain(desk, desk.main.S_JPG, kJpeg);
+}
+
+void SaveGif(Orvane_Desk& desk, Control& asking, std::function<void()> then) {
+  const auto hourglass = std::make_shared<Hourglass>(desk.main);
+  const bool recording = desk.recording.GifRecording != 0;
+  if (recording && desk.recording.GifFrame != 0) {
+    WriteGif(desk, desk.recording.GifBaseName, recording);
+    hourglass->End();
+    return then();
+  }
+  AskForName(desk, asking, kGif,
+             [&desk, hourglass, recording, then = std::move(then)](const std::string& name) {
+               desk.recording.GifBaseName = name;
+               WriteGif(desk, name, recording);
+               hourglass->End();
+               then();
+             });
+}
+
+void S_Gif_Click(Orvane_Desk& desk) {
+  SaveGif(desk, desk.main.S_Gif, [] {});
 }
 
 void ReportRefusedName(Orvane_Desk& desk, std::string_view name) {

@@ -1,6 +1,7 @@
 #include "commands/spin.h"
 
 #include "commands/recording.h"
+#include "desk/actions.h"
 #include "stereo/refresh_tail.h"
 #include "view/spin.h"
 #include "view/transform.h"
@@ -25,9 +26,11 @@ void Rt_speed_Change(Orvane_Desk& desk) { desk.main.Timer1.Interval = desk.main.
 void Timer1_Tick(Orvane_Desk& desk) {
   desk.platform.LetEventsRun();
   if (desk.view.AutoRotateOn != 1) return;
-  RecordTick(desk);
-  SpinStep(desk);
-  RefreshTail(desk);
+  if (IsAsking(desk)) return;  // a tick inside this one has asked for the recording's name
+  RecordTick(desk, [&desk] {
+    SpinStep(desk);
+    RefreshTail(desk);
+  });
 }
 
 void Timer1_Failed(Orvane_Desk& desk) { StopSpin(desk); }

@@ -2,6 +2,7 @@
 // of strokes, nothing crosses between logic and skin.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,12 +24,15 @@ class Platform {
   virtual ~Platform() = default;
 
   virtual void Beep() = 0;
-  // Boxes are modal: they return when the user has answered, and no timer ticks meanwhile.
+  // Nothing here waits for the user. A box that is asked for while another is up comes after it, and
+  // the desk is held as long as one is up: no timer ticks, and no action of the user comes in.
   virtual void MessageBox(std::string_view text) = 0;
   virtual void WarningBox(std::string_view text) = 0;  // with the exclamation icon
   virtual void FailureBox(std::string_view text) = 0;
-  // Empty when it was cancelled.
-  virtual std::string InputBox(std::string_view prompt, std::string_view title) = 0;
+  // The answer, where there is one already (a script has them); an empty one means cancelled. Else
+  // nothing: the box opens, and the skin calls Answer when the user has answered it.
+  virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title) = 0;
+  virtual bool BoxIsUp() const { return false; }
 
   virtual void LetEventsRun() = 0;     // pending events are handled inside this call
   virtual void Wait(int seconds) = 0;  // lets events run until the clock is past that many seconds

@@ -1,6 +1,7 @@
 #include "desk/actions.h"
 
 #include <new>
+#include <utility>
 
 #include "runtime/failure.h"
 #include "runtime/no_memory.h"
@@ -68,12 +69,12 @@ void RunToItsEnd(Orvane_Desk& desk, Control& control, Operation operation) {
   }
 }
 
-bool MayAct(const Control& control, Reach reach) {
-  return reach == Reach::Forced || control.IsOpenToUser();
+bool MayAct(const Orvane_Desk& desk, const Control& control, Reach reach) {
+  return reach == Reach::Forced || (control.IsOpenToUser() && !desk.platform.BoxIsUp());
 }
 
 void Deliver(Orvane_Desk& desk, Control& control, const Event& event, Reach reach) {
-  if (!MayAct(control, reach)) return;
+  if (!MayAct(desk, control, reach)) return;
   RunToItsEnd(desk, control, [&] { control.Raise(event); });
 }
 
@@ -88,7 +89,7 @@ void DoubleClick(Orvane_Desk& desk, Control& control, Reach reach) {
 }
 
 void SelectRow(Orvane_Desk& desk, List& list, int row, Reach reach) {
-  if (!MayAct(list, reach)) return;
+  if (!MayAct(desk, list, reach)) return;
   const bool is_row = row >= 0 && row < static_cast<int>(list.Rows.Get().size());
   RunToItsEnd(desk, list, [&] {
     list.ListIndex = is_row ? row : -1;
@@ -117,22 +118,22 @@ void FocusComes(Orvane_Desk& desk, Control& control) {
 }
 
 void StepBar(Orvane_Desk& desk, ScrollBar& bar, int value, Reach reach) {
-  if (!MayAct(bar, reach)) return;
+  if (!MayAct(desk, bar, reach)) return;
   RunToItsEnd(desk, bar, [&] { bar.StepTo(value); });
 }
 
 void DragBar(Orvane_Desk& desk, ScrollBar& bar, int value, Reach reach) {
-  if (!MayAct(bar, reach)) return;
+  if (!MayAct(desk, bar, reach)) return;
   RunToItsEnd(desk, bar, [&] { bar.DragTo(value); });
 }
 
 void DropBar(Orvane_Desk& desk, ScrollBar& bar, Reach reach) {
-  if (!MayAct(bar, reach)) return;
+  if (!MayAct(desk, bar, reach)) return;
   RunToItsEnd(desk, bar, [&] { bar.Drop(); });
 }
 
 void TypeText(Orvane_Desk& desk, TextBox& box, std::string_view text, Reach reach) {
-  if (!MayAct(box, reach)) return;
+  if (!MayAct(desk, box, reach)) return;
   RunToItsEnd(desk, box, [&] { box.Text = std::string(text); });
 }
 
@@ -148,12 +149,27 @@ void Resize(Orvane_Desk& desk, Window& window, Place now, WindowState state) {
   });
 }
 
+void Ask(Orvane_Desk& desk, Control& asking, std::string_view prompt, std::string_view title,
+         std::function<void(const std::string&)> then) {
+  if (const auto ready = desk.platform.InputBox(prompt, title)) return then(*ready);
+  desk.question = {&asking, std::move(then)};
+}
+
+bool IsAsking(const Orvane_Desk& desk) { return desk.question.Asking != nullptr; }
+
+void Answer(Orvane_Desk& desk, std::string_view text) {
+  if (!IsAsking(desk)) return;
+  const Question answered = std::exchange(desk.question, {});
+  RunToItsEnd(desk, *answered.Asking, [&] { answered.Then(std::string(text)); });
+}
+
 void CloseWindow(Orvane_Desk& desk, Window& window) {
+  if (desk.platform.BoxIsUp()) return;
   RunToItsEnd(desk, window, [&] { window.Raise({.Kind = EventKind::Close}); });
 }
 
 void OpenFolder(Orvane_Desk& desk, FileList& list, std::string_view path) {
-  if (!list.IsOpenToUser()) return;
+  if (!MayAct(desk, list, Reach::AsUser)) return;
   RunToItsEnd(desk, list, [&] {
     list.Path = std::string(path);
     list.Raise({.Kind = EventKind::Change});
@@ -161,12 +177,12 @@ void OpenFolder(Orvane_Desk& desk, FileList& list, std::string_view path) {
 }
 
 void ChooseFile(Orvane_Desk& desk, FileList& list, std::string_view name) {
-  if (!list.IsOpenToUser()) return;
+  if (!MayAct(desk, list, Reach::AsUser)) return;
   RunToItsEnd(desk, list, [&] { list.FileName = std::string(name); });
 }
 
 void Tick(Orvane_Desk& desk, Timer& timer, Reach reach) {
-  if (reach == Reach::AsUser && !timer.Enabled) return;
+  if (reach == Reach::AsUser && (!timer.Enabled || desk.platform.BoxIsUp())) return;
   RunToItsEnd(desk, timer, [&] { timer.Raise({.Kind = EventKind::Tick}); });
 }
 

@@ -1,8 +1,10 @@
 // Where events come in: every action of a user and every tick passes here, from any skin. An action
-// on a control that is not open to the user does nothing; a failure of the operation that it starts
-// ends here, in a box, and the program goes on.
+// on a control that is not open to the user does nothing, and so does any action while a box is up.
+// A failure of the operation that it starts ends here, in a box, and the program goes on.
 #pragma once
 
+#include <functional>
+#include <string>
 #include <string_view>
 
 #include "desk/orvane_desk.h"
@@ -34,6 +36,16 @@ void DropBar(Orvane_Desk& desk, ScrollBar& bar, Reach reach = Reach::AsUser);
 
 void TypeText(Orvane_Desk& desk, TextBox& box, std::string_view text, Reach reach = Reach::AsUser);
 void PressKey(Orvane_Desk& desk, Control& control, int key_code, Reach reach = Reach::AsUser);
+
+// Asks the user for a line of text, and goes on in `then` with the answer, empty when the question
+// was cancelled. `asking` is the control whose event is running. Where the platform has an answer
+// ready, `then` runs inside this call; else this call returns, the desk is held while the box is
+// up, and `then` runs inside Answer.
+void Ask(Orvane_Desk& desk, Control& asking, std::string_view prompt, std::string_view title,
+         std::function<void(const std::string&)> then);
+bool IsAsking(const Orvane_Desk& desk);
+// The user has answered the question that is open.
+void Answer(Orvane_Desk& desk, std::string_view text);
 
 // The user or the screen has given a window another size; `now` is its new place.
 void Resize(Orvane_Desk& desk, Window& window, Place now, WindowState state);

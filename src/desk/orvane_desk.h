@@ -10,6 +10,7 @@
 #include "desk/generator.h"
 #include "desk/measure.h"
 #include "desk/molecule.h"
+#include "desk/question.h"
 #include "desk/recording.h"
 #include "desk/selection.h"
 #include "desk/shell.h"
@@ -47,6 +48,7 @@ struct Orvane_Desk {
   Recording recording;
   WalkedAtom walk;
   Shell shell;
+  Question question;
 
   MainWindow main;
   PlotWindow plot;        // Ramachandran

@@ -28,7 +28,7 @@ class ReplayPlatform : public Platform {
   void MessageBox(std::string_view text) override;
   void WarningBox(std::string_view text) override;
   void FailureBox(std::string_view text) override;
-  std::string InputBox(std::string_view prompt, std::string_view title) override;
+  std::optional<std::string> InputBox(std::string_view prompt, std::string_view title) override;
 
   // A script's actions come one after the other, so none is ever pending.
   void LetEventsRun() override {

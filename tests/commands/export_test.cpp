@@ -103,7 +103,7 @@ TEST_F(Export, TheHourglassShowsWhileTheNameIsAskedFor) {
   struct Looking : FakePlatform {
     Orvane_Desk* desk = nullptr;
     int pointer = -1;
-    std::string InputBox(std::string_view, std::string_view) override {
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
       // cppcheck-suppress nullPointer ; set below, before the box is asked for
       pointer = desk->main.MousePointer;
       return "";

@@ -27,7 +27,7 @@ class QuietPlatform : public QtPlatform {
   void MessageBox(std::string_view text) override { Keep("message ", text); }
   void WarningBox(std::string_view text) override { Keep("warning ", text); }
   void FailureBox(std::string_view text) override { Keep("failure ", text); }
-  std::string InputBox(std::string_view prompt, std::string_view) override {
+  std::optional<std::string> InputBox(std::string_view prompt, std::string_view) override {
     Keep("ask ", prompt);
     if (Answers.empty()) return "";
     std::string answer = Answers.front();

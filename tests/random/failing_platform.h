@@ -66,7 +66,7 @@ class FailingPlatform : public FakePlatform {
     if (FailsAt >= 0 && How == Way::TwoFold) FailPlatform("there is no screen");
     if (goes) FakePlatform::FailureBox(text);
   }
-  std::string InputBox(std::string_view prompt, std::string_view title) override {
+  std::optional<std::string> InputBox(std::string_view prompt, std::string_view title) override {
     return Goes(Call::InputBox) ? FakePlatform::InputBox(prompt, title) : "";
   }
   void LetEventsRun() override {

@@ -59,7 +59,7 @@ class Camera : public Platform {
     film = request.FirstFrame ? AnimationOf(picture) : WithOneMoreFrame(film, picture).value();
     ++frames;
   }
-  std::string InputBox(std::string_view, std::string_view) override { return "abc"; }
+  std::optional<std::string> InputBox(std::string_view, std::string_view) override { return "abc"; }
   void Beep() override {}
   void MessageBox(std::string_view) override {}
   void WarningBox(std::string_view) override {}

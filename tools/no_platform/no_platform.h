@@ -14,7 +14,7 @@ class NoPlatform : public Platform {
   void MessageBox(std::string_view) override { Refuse(); }
   void WarningBox(std::string_view) override { Refuse(); }
   void FailureBox(std::string_view) override { Refuse(); }
-  std::string InputBox(std::string_view, std::string_view) override { Refuse(); }
+  std::optional<std::string> InputBox(std::string_view, std::string_view) override { Refuse(); }
   void LetEventsRun() override { Refuse(); }
   void Wait(int) override { Refuse(); }
   void EndProgram() override { Refuse(); }

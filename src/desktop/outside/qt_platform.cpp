@@ -54,7 +54,7 @@ void QtPlatform::FailureBox(std::string_view text) {
   ShowBox(text, QMessageBox::Critical);
 }
 
-std::string QtPlatform::InputBox(std::string_view prompt, std::string_view title) {
+std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title) {
   const BoxUp up(boxes_);
   return QInputDialog::getText(QApplication::activeWindow(),
                                title.empty() ? QString::fromLatin1(kTitle) : Text(title),

@@ -19,7 +19,7 @@ class QtPlatform : public Platform {
   void MessageBox(std::string_view text) override;
   void WarningBox(std::string_view text) override;
   void FailureBox(std::string_view text) override;
-  std::string InputBox(std::string_view prompt, std::string_view title) override;
+  std::optional<std::string> InputBox(std::string_view prompt, std::string_view title) override;
   void LetEventsRun() override;
   void Wait(int seconds) override;
   void EndProgram() override;
