@@ -7,6 +7,7 @@
 #include "measure/degrees.h"
 #include "measure/readout.h"
 #include "runtime/arithmetic.h"
+#include "runtime/trigonometry.h"
 
 namespace orvane {
 namespace {
@@ -31,7 +32,7 @@ void Angle3(Orvane_Desk& desk) {
   // Rounding can carry c past 1. The points then lie on one line all the same, and there is no
   // root.
   const double s = std::sqrt(std::max(1 - c * c, 0.0));
-  measure.AngleResult = (std::atan(Divide(-c, s)) + kRightAngle) * kMeasureDegrees;
+  measure.AngleResult = (ArcTangent(Divide(-c, s)) + kRightAngle) * kMeasureDegrees;
 
   EmptyReadout(desk);
   if (measure.MeasureOn != 1) return;

@@ -1,11 +1,11 @@
 #include "measure/torsion.h"
 
 #include <array>
-#include <cmath>
 
 #include "measure/degrees.h"
 #include "measure/readout.h"
 #include "runtime/arithmetic.h"
+#include "runtime/trigonometry.h"
 
 namespace orvane {
 namespace {
@@ -24,14 +24,14 @@ constexpr std::string_view kOtherTorsion = "Tor > ";
 
 Point Minus(const Point& a, const Point& b) { return {a.X - b.X, a.Y - b.Y, a.Z - b.Z}; }
 
-void TurnAboutX(Point& p, double f) {
-  p = {p.X, std::cos(f) * p.Y - std::sin(f) * p.Z, std::sin(f) * p.Y + std::cos(f) * p.Z};
+void TurnAboutX(Point& p, const Turn& f) {
+  p = {p.X, f.Cosine * p.Y - f.Sine * p.Z, f.Sine * p.Y + f.Cosine * p.Z};
 }
-void TurnAboutY(Point& p, double g) {
-  p = {std::sin(g) * p.Z + std::cos(g) * p.X, p.Y, -std::sin(g) * p.X + std::cos(g) * p.Z};
+void TurnAboutY(Point& p, const Turn& g) {
+  p = {g.Sine * p.Z + g.Cosine * p.X, p.Y, -g.Sine * p.X + g.Cosine * p.Z};
 }
-void TurnAboutZ(Point& p, double h) {
-  p = {std::cos(h) * p.X - std::sin(h) * p.Y, std::sin(h) * p.X + std::cos(h) * p.Y, p.Z};
+void TurnAboutZ(Point& p, const Turn& h) {
+  p = {h.Cosine * p.X - h.Sine * p.Y, h.Sine * p.X + h.Cosine * p.Y, p.Z};
 }
 
 //   a       d       Three vectors from PointB. The middle bond b is laid along z and a above the
@@ -39,14 +39,14 @@ void TurnAboutZ(Point& p, double h) {
 //     B-b-C         looked at again are left unturned.
 double TurnFrame(std::array<Point, 3>& frame) {
   auto& [a, b, d] = frame;
-  const double f = std::atan(Divide(b.Y, b.Z));
+  const Turn f = TurnBy(ArcTangent(Divide(b.Y, b.Z)));
   for (Point& vector : frame) TurnAboutX(vector, f);
-  const double g = -std::atan(Divide(b.X, b.Z));
+  const Turn g = TurnBy(-ArcTangent(Divide(b.X, b.Z)));
   TurnAboutY(a, g);
   TurnAboutY(d, g);
-  const double h = -std::atan(Divide(a.Y, a.X));
+  const Turn h = TurnBy(-ArcTangent(Divide(a.Y, a.X)));
   TurnAboutZ(d, h);
-  return std::atan(Divide(d.Y, d.X)) * kMeasureDegrees;
+  return ArcTangent(Divide(d.Y, d.X)) * kMeasureDegrees;
 }
 
 const NamedTorsion* NameOf(const Molecule& molecule, const std::array<int, 4>& atoms) {

@@ -45,14 +45,19 @@ class Search {
   // stroke in the picture under the pointer.
   void Ask(const Stroke& held, const Stroke& shown) {
     const double ball = shown.Kind == StrokeKind::Circle ? shown.X2 + shown.Width / 2.0 : -1;
-    AskPlace(held.X1, held.Y1, std::hypot(shown.X1 - x_, shown.Y1 - y_), ball);
+    AskPlace(held.X1, held.Y1, Away(shown.X1, shown.Y1), ball);
     if (shown.Kind != StrokeKind::Line) return;
-    AskPlace(held.X2, held.Y2, std::hypot(shown.X2 - x_, shown.Y2 - y_), ball);
+    AskPlace(held.X2, held.Y2, Away(shown.X2, shown.Y2), ball);
   }
 
   int Found() const { return in_front_ != 0 ? in_front_ : beside_; }
 
  private:
+  double Away(double x, double y) const {
+    const double dx = x - x_, dy = y - y_;
+    return std::sqrt(dx * dx + dy * dy);
+  }
+
   void AskPlace(float x, float y, double away, double ball) {
     if (away > ball && away > nearest_) return;
     const int atom = AtomThere(molecule_, x, y);

@@ -52,10 +52,15 @@ std::vector<Plotted> PlottedOn(const Orvane_Desk& desk, const MapArea& area) {
   return plotted;
 }
 
+double Away(const Plotted& row, double x, double y) {
+  const double dx = row.X - x, dy = row.Y - y;
+  return std::sqrt(dx * dx + dy * dy);
+}
+
 const Plotted* Nearest(const std::vector<Plotted>& plotted, double x, double y, double reach) {
   const Plotted* nearest = nullptr;
   for (const Plotted& row : plotted) {
-    const double away = std::hypot(row.X - x, row.Y - y);
+    const double away = Away(row, x, y);
     if (away > reach) continue;
     reach = away;
     nearest = &row;
@@ -77,7 +82,7 @@ std::string MapWords(const Orvane_Desk& desk, const MapArea& area, float x, floa
   if (nearest == nullptr) return {};
   std::string words;
   for (const Plotted& row : plotted) {
-    if (std::hypot(row.X - nearest->X, row.Y - nearest->Y) > kCovering) continue;
+    if (Away(row, nearest->X, nearest->Y) > kCovering) continue;
     if (!words.empty()) words += "\n";
     words += WordsOf(desk, row);
   }

@@ -6,6 +6,7 @@
 #include "core/record.h"
 #include "narration/names.h"
 #include "narration/number_words.h"
+#include "runtime/trigonometry.h"
 #include "stock/generator.h"
 #include "stock/stock_texts.h"
 
@@ -22,17 +23,24 @@ Point Cross(const Point& a, const Point& b) {
 }
 double Length(const Point& a) { return std::sqrt(Dot(a, a)); }
 
+// Of the direction (x, y), anticlockwise from that of x.
+double AngleTo(double x, double y) {
+  if (x == 0) return y == 0 ? 0 : std::copysign(90, y);
+  const double angle = ArcTangent(y / x) * kDegrees;
+  return x > 0 ? angle : angle + std::copysign(180, y);
+}
+
 // At b.
 double AngleOf(const Point& a, const Point& b, const Point& c) {
   const Point ba = Minus(a, b), bc = Minus(c, b);
-  return std::atan2(Length(Cross(ba, bc)), Dot(ba, bc)) * kDegrees;
+  return AngleTo(Dot(ba, bc), Length(Cross(ba, bc)));
 }
 
 // About b - c.
 double TorsionOf(const Point& a, const Point& b, const Point& c, const Point& d) {
   const Point ab = Minus(b, a), bc = Minus(c, b), cd = Minus(d, c);
   const Point first = Cross(ab, bc), second = Cross(bc, cd);
-  return std::atan2(Length(bc) * Dot(ab, second), Dot(first, second)) * kDegrees;
+  return AngleTo(Dot(first, second), Length(bc) * Dot(ab, second));
 }
 
 // The generator's own memory, at full precision.

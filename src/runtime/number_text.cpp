@@ -50,6 +50,16 @@ std::string Fixed(float value, int decimals) {
   return {text.data(), result.ptr};
 }
 
+// The power of ten at which the digits of a 32-bit size begin, 6 for all above it too. The tenths
+// are off a little, but no 32-bit number lies between them and the exact ones.
+int LeadingPlace(double size) {
+  int place = 0;
+  if (size == 0) return place;
+  for (double ten = 10; place < 6 && size >= ten; ten *= 10) ++place;
+  for (double tenth = 1; size < tenth; tenth /= 10) --place;
+  return place;
+}
+
 }  // namespace
 
 double LenientNumber(std::string_view text) {
@@ -81,10 +91,7 @@ Int16 RoundedInt16(std::string_view text) {
 
 std::string SingleText(double value) {
   const auto single = static_cast<float>(value);
-  // In 64 bits: in 32 the logarithm of a value just below 100 would be that of 100.
-  const double size = std::fabs(static_cast<double>(single));
-  const int leading = size == 0.0 ? 0 : static_cast<int>(std::floor(std::log10(size)));
-  return Fixed(single, std::max(0, 6 - leading));
+  return Fixed(single, std::max(0, 6 - LeadingPlace(std::fabs(single))));
 }
 
 std::string TwoDecimals(double value) {

@@ -7,6 +7,7 @@
 #include "core/selection.h"
 #include "runtime/arithmetic.h"
 #include "runtime/number_text.h"
+#include "runtime/trigonometry.h"
 
 namespace orvane {
 namespace {
@@ -19,21 +20,20 @@ constexpr double kTinyValue = 1e-10;
 Point Minus(const Point& a, const Point& b) { return {a.X - b.X, a.Y - b.Y, a.Z - b.Z}; }
 Point Plus(const Point& a, const Point& b) { return {a.X + b.X, a.Y + b.Y, a.Z + b.Z}; }
 
-// Radians.
-void TurnAboutX(Point& p, double t) {
+void TurnAboutX(Point& p, const Turn& t) {
   const double y = p.Y, z = p.Z;
-  p.Y = y * std::cos(t) - z * std::sin(t);
-  p.Z = y * std::sin(t) + z * std::cos(t);
+  p.Y = y * t.Cosine - z * t.Sine;
+  p.Z = y * t.Sine + z * t.Cosine;
 }
-void TurnAboutY(Point& p, double t) {
+void TurnAboutY(Point& p, const Turn& t) {
   const double x = p.X, z = p.Z;
-  p.X = x * std::cos(t) + z * std::sin(t);
-  p.Z = -x * std::sin(t) + z * std::cos(t);
+  p.X = x * t.Cosine + z * t.Sine;
+  p.Z = -x * t.Sine + z * t.Cosine;
 }
-void TurnAboutZ(Point& p, double t) {
+void TurnAboutZ(Point& p, const Turn& t) {
   const double x = p.X, y = p.Y;
-  p.X = x * std::cos(t) - y * std::sin(t);
-  p.Y = x * std::sin(t) + y * std::cos(t);
+  p.X = x * t.Cosine - y * t.Sine;
+  p.Y = x * t.Sine + y * t.Cosine;
 }
 
 // Turns the references into the frame of the placement: the angle point lies at the origin and the
@@ -46,29 +46,31 @@ void TurnReferencesIntoFrame(Generator& g) {
   g.RefTorsion = Minus(g.RefTorsion, g.PlaceOrigin);
 
   const bool no_z = std::fabs(g.RefBonded.Z) < kTinyValue;
-  g.PlaceAlpha = no_z ? 0.0 : std::atan(Divide(g.RefBonded.Y, g.RefBonded.Z));
-  TurnAboutX(g.RefBonded, g.PlaceAlpha);
-  TurnAboutX(g.RefAngle, g.PlaceAlpha);
-  TurnAboutX(g.RefTorsion, g.PlaceAlpha);
+  g.PlaceAlpha = no_z ? 0.0 : ArcTangent(Divide(g.RefBonded.Y, g.RefBonded.Z));
+  const Turn alpha = TurnBy(g.PlaceAlpha);
+  TurnAboutX(g.RefBonded, alpha);
+  TurnAboutX(g.RefAngle, alpha);
+  TurnAboutX(g.RefTorsion, alpha);
 
   const bool no_x = std::fabs(g.RefBonded.X) < kTinyValue;
-  g.PlaceBeta = no_x ? 0.0 : std::atan(Divide(g.RefBonded.X, g.RefBonded.Z));
-  TurnAboutY(g.RefBonded, -g.PlaceBeta);
-  TurnAboutY(g.RefTorsion, -g.PlaceBeta);
+  g.PlaceBeta = no_x ? 0.0 : ArcTangent(Divide(g.RefBonded.X, g.RefBonded.Z));
+  const Turn back = TurnBy(-g.PlaceBeta);
+  TurnAboutY(g.RefBonded, back);
+  TurnAboutY(g.RefTorsion, back);
 }
 
 void ComputeNewAtom(Generator& g, double torsion, double angle, double length) {
   TurnReferencesIntoFrame(g);
   angle = (angle - 90) * kDegToRad;
-  g.NewAtom.Z = std::sin(angle) * length + g.RefBonded.Z;
-  g.PlaceGamma = std::atan(Divide(g.RefTorsion.Y, g.RefTorsion.X));
-  length = length * std::cos(angle);
+  g.NewAtom.Z = Sine(angle) * length + g.RefBonded.Z;
+  g.PlaceGamma = ArcTangent(Divide(g.RefTorsion.Y, g.RefTorsion.X));
+  length = length * Cosine(angle);
   torsion = torsion * kDegToRad;
-  g.NewAtom.X = std::cos(torsion) * length;
-  g.NewAtom.Y = std::sin(torsion) * length;
-  TurnAboutZ(g.NewAtom, g.PlaceGamma);
-  TurnAboutY(g.NewAtom, g.PlaceBeta);
-  TurnAboutX(g.NewAtom, -g.PlaceAlpha);
+  g.NewAtom.X = Cosine(torsion) * length;
+  g.NewAtom.Y = Sine(torsion) * length;
+  TurnAboutZ(g.NewAtom, TurnBy(g.PlaceGamma));
+  TurnAboutY(g.NewAtom, TurnBy(g.PlaceBeta));
+  TurnAboutX(g.NewAtom, TurnBy(-g.PlaceAlpha));
   g.NewAtom = Plus(g.NewAtom, g.PlaceOrigin);
 }
 

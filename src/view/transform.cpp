@@ -4,11 +4,13 @@
 
 #include "draw/redraw_chain.h"
 #include "measure/picks.h"
+#include "runtime/trigonometry.h"
 
 namespace orvane {
 namespace {
 
 constexpr double kSpinDegrees = 10;
+const double kPi = 4 * ArcTangent(1.0);
 
 void TurnEveryAtom(Molecule& molecule, const View& view) {
   for (int i = 1; i <= molecule.AtomCount; ++i) {
@@ -28,8 +30,7 @@ void NegateIf(bool condition, Int16& step) {
 }  // namespace
 
 void BuildTurn(View& view, const Molecule& molecule) {
-  const double pi = 4 * std::atan(1.0);
-  const double d = 180 / pi;
+  const double d = 180 / kPi;
   view.TurnAngle = view.TurnAngle / d;
 
   const Point& from = molecule.PointB;
@@ -43,8 +44,8 @@ void BuildTurn(View& view, const Molecule& molecule) {
   const double v = b * i;
   const double w = c * i;
 
-  const double co = std::cos(view.TurnAngle);
-  const double si = std::sin(view.TurnAngle);
+  const double co = Cosine(view.TurnAngle);
+  const double si = Sine(view.TurnAngle);
   const double t = 1 - co;
   auto& m = view.RotM;
   m[0][0] = u * u * t + co;

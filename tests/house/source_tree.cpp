@@ -57,14 +57,22 @@ std::vector<std::string> Headers() {
   return headers;
 }
 
-std::vector<Inclusion> Inclusions() {
-  static const std::regex include(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
-  std::vector<Inclusion> found;
+std::vector<std::string> Sources() {
+  std::vector<std::string> sources;
   for (const auto& entry : fs::recursive_directory_iterator(kRoot / "src")) {
     const auto kind = entry.path().extension();
     if (kind != ".h" && kind != ".cpp") continue;
-    const std::string from = fs::relative(entry.path(), kRoot / "src").generic_string();
-    std::ifstream file(entry.path());
+    sources.push_back(fs::relative(entry.path(), kRoot / "src").generic_string());
+  }
+  std::sort(sources.begin(), sources.end());
+  return sources;
+}
+
+std::vector<Inclusion> Inclusions() {
+  static const std::regex include(R"(^\s*#\s*include\s*([<"])([^>"]+)[>"])");
+  std::vector<Inclusion> found;
+  for (const std::string& from : Sources()) {
+    std::ifstream file(kRoot / "src" / from);
     int number = 0;
     for (std::string line; std::getline(file, line);) {
       ++number;

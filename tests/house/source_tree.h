@@ -24,7 +24,10 @@ std::vector<std::string> RoomsOnDisk();
 // Every header of the program, the tests and the tools, relative to the project.
 std::vector<std::string> Headers();
 
-// Every #include of every .h and .cpp under src/.
+// Every .h and .cpp under src/, relative to it, sorted.
+std::vector<std::string> Sources();
+
+// Every #include of every one of them.
 std::vector<Inclusion> Inclusions();
 
 // The text of a file of the project; empty if the file does not exist.

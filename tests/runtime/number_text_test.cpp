@@ -106,6 +106,21 @@ TEST(SingleText, HasSevenSignificantDigitsAndNoExponent) {
   EXPECT_EQ(SingleText(12345678.0), "12345678");
 }
 
+TEST(SingleText, CountsItsDigitsFromTheFirst) {
+  // The nearest 32-bit values to 0.1 and 0.001 are a little above them, that to 0.01 is a little
+  // below: 0.00999999978, whose first digit is the third after the point.
+  EXPECT_EQ(SingleText(0.1), "0.1000000");
+  EXPECT_EQ(SingleText(0.01), "0.010000000");
+  EXPECT_EQ(SingleText(0.001), "0.001000000");
+  EXPECT_EQ(SingleText(1.0), "1.000000");
+  EXPECT_EQ(SingleText(10.0), "10.00000");
+  EXPECT_EQ(SingleText(100000.0), "100000.0");
+  // 10^6 - 2^-4, the largest below a million, and the largest of all.
+  EXPECT_EQ(SingleText(999999.9375), "999999.9");
+  EXPECT_EQ(SingleText(1000000.0), "1000000");
+  EXPECT_EQ(SingleText(0x1.fffffep127), "340282346638528859811704183484516925440");
+}
+
 TEST(SingleText, NarrowsTo32BitsFirst) {
   // The nearest 32-bit value to 16777217 is 16777216.
   EXPECT_EQ(SingleText(16777217.0), "16777216");
