@@ -20,7 +20,7 @@ struct AtomAtTest : testing::Test, PlacedAtoms {
     return AtomAt(desk, static_cast<float>(x), static_cast<float>(y), reach);
   }
   int AtAtom(int i) const { return At(molecule.ScrX[i], molecule.ScrY[i]); }
-  // Half a pixel around the place of atom i in a half of a split view. The halves are square.
+  // The place of atom i in a half of a split view, to half a pixel. The halves are square.
   int AtPlace(const ImageBox& half, double x, double y) const {
     const double pixels = half.At.Get().Width / 15.0;
     const double scale = pixels / kSurfacePixels;
@@ -37,7 +37,7 @@ TEST_F(AtomAtTest, NothingIsFoundOnAnEmptySurface) {
   EXPECT_EQ(At(180, 180, 1000), 0);
 }
 
-// A ball of carbon: size 3, radius 1.85 and half of its outline, 5.35.
+// A ball of carbon: size 3, radius 1.85 and half of its outline make 5.35.
 TEST_F(AtomAtTest, ABallCountsToItsOutlineAndTheReachBeyondItOnlyIfWider) {
   Atom("  CA ", 100, 100);
   PaintBalls();
@@ -64,7 +64,7 @@ TEST_F(AtomAtTest, WithoutBallsTheNearestEndOfALineCounts) {
   EXPECT_EQ(At(100, 105), 0);  // out of reach of both
 }
 
-TEST_F(AtomAtTest, OnTheMiddleOfABondIsNoAtom) {
+TEST_F(AtomAtTest, NoAtomIsFoundAtTheMiddleOfABond) {
   Atom("  CA ", 100, 100);
   Atom("  CB ", 140, 100);
   Bond(2, 1);
@@ -72,7 +72,7 @@ TEST_F(AtomAtTest, OnTheMiddleOfABondIsNoAtom) {
   EXPECT_EQ(At(120, 100), 0);
 }
 
-// Nothing is drawn of an atom that has neither bond nor ball.
+// An atom that has neither bond nor ball is not drawn at all.
 TEST_F(AtomAtTest, AnAtomThatIsNotDrawnIsNotFound) {
   Atom("  CA ", 100, 100);
   PaintAtomFamily(desk);
@@ -86,7 +86,7 @@ TEST_F(AtomAtTest, ItsLabelShowsAnAtom) {
   EXPECT_EQ(At(101, 101), 1);
 }
 
-TEST_F(AtomAtTest, OfTwoAtomsOnOneSpotTheLaterIsTold) {
+TEST_F(AtomAtTest, OfTwoAtomsInOnePlaceTheLaterIsNamed) {
   Atom("  CA ", 100, 100);
   Atom("  CA ", 100, 100);
   PaintBalls();
@@ -103,8 +103,8 @@ TEST_F(AtomAtTest, ATraceShowsAlphaCarbonsOnly) {
   }
 }
 
-// Alanine's atoms, turned, zoomed and shifted: each is found where it now is, or one whose ball was
-// painted over its middle.
+// Alanine's atoms, turned, zoomed and shifted: the search finds each where it now is, or an atom
+// whose ball was painted over its middle.
 TEST_F(AtomAtTest, EveryBallIsFoundWhereverTheViewHasTakenIt) {
   Choose(*this, main.AA_Lst, "ALA");
   Click(desk, main.D_StB);
@@ -131,7 +131,7 @@ TEST_F(AtomAtTest, TheOldPlaceIsEmptyAfterAShift) {
   EXPECT_EQ(AtAtom(1), 1);
 }
 
-// What is left in store after the surface was cleared is not on the picture.
+// What is left in the store after the surface was cleared is not in the picture.
 TEST_F(AtomAtTest, AClearedPictureHasNoAtoms) {
   Choose(*this, main.AA_Lst, "GLY");
   ASSERT_EQ(AtAtom(1), 1);
@@ -193,7 +193,7 @@ TEST_F(AtomAtTest, TheMirrorFormShowsTheAtomsToo) {
   EXPECT_EQ(AtPlace(main.R_Img, balls[12]->X1, balls[12]->Y1), 13);
 }
 
-// A half keeps its picture when the surface goes on; what it then shows cannot be told.
+// A half keeps its picture when the surface is drawn on. Nobody can then say what the half shows.
 TEST_F(AtomAtTest, AHalfThatShowsAnotherPictureNamesNothing) {
   EXPECT_EQ(AtPlace(main.L_Img, 180, 180), 0);  // none yet
   Choose(*this, main.AA_Lst, "ASP");

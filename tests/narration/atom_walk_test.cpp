@@ -11,7 +11,7 @@
 namespace orvane {
 namespace {
 
-// Counts what a skin hears of the walk.
+// Counts what a skin is told about the walk.
 struct WalkHeard : ControlWatcher {
   int Count = 0;
   void Changed(Control& control, Aspect aspect) override {
@@ -56,7 +56,7 @@ TEST_F(AtomWalkTest, BeginsBackwardsAtTheLastAtom) {
   EXPECT_EQ(AtomOfWalk(desk), 3);
 }
 
-TEST_F(AtomWalkTest, TellsTheWatcherOfThePictureOfEachStep) {
+TEST_F(AtomWalkTest, TellsThePicturesWatcherOfEachStep) {
   ThreeAtomsApart();
   WalkToNext(desk);
   WalkToNext(desk);
@@ -64,7 +64,7 @@ TEST_F(AtomWalkTest, TellsTheWatcherOfThePictureOfEachStep) {
   PickWalked(desk);
   EXPECT_EQ(heard.Count, 3);
   desk.molecule.MolText.clear();
-  EXPECT_THROW(LoadMolecule(desk), Failure);  // no atoms; the walk is at its end all the same
+  EXPECT_THROW(LoadMolecule(desk), Failure);  // no atoms; the walk ends all the same
   EXPECT_EQ(heard.Count, 4);
   EXPECT_EQ(AtomOfWalk(desk), 0);
 }
@@ -82,7 +82,7 @@ TEST_F(AtomWalkTest, BeepsWhereThereIsNothingToWalkOn) {
   EXPECT_EQ(desk.walk.Number, 0);
 }
 
-TEST_F(AtomWalkTest, StandsOnNothingWhileThePictureIsClearedOrCovered) {
+TEST_F(AtomWalkTest, IsOnNoAtomWhileThePictureIsClearedOrCovered) {
   ThreeAtomsApart();
   WalkToNext(desk);
 
@@ -133,8 +133,9 @@ TEST_F(AtomWalkTest, ReadsBackWhatThePressTook) {
   EXPECT_EQ(desk.measure.PickState, 0);
 }
 
-// Five pixels apart, a press on the one does not reach the other; two apart it does, but not from
-// beside them: at 98 the atom at 100 is in reach, the one at 102 is not.
+// If two atoms are five pixels apart, a press on one does not reach the other. If they are two
+// apart it does, except from outside the pair: at 98 the atom at 100 is in reach, that at 102 is
+// not.
 TEST_F(AtomWalkTest, PressesWhereItTakesNoNeighbour) {
   Atom("  N  ", 100, 100);
   Atom("  CA ", 102, 100);
@@ -148,7 +149,7 @@ TEST_F(AtomWalkTest, PressesWhereItTakesNoNeighbour) {
   EXPECT_EQ(desk.view.PressY, 100.0F);
 }
 
-TEST_F(AtomWalkTest, SaysWhichAtomAPressTookLastWhereTwoLieOnOneSpot) {
+TEST_F(AtomWalkTest, SaysWhichAtomAPressTookLastIfTwoAreInOnePlace) {
   Atom("  N  ", 100, 100);
   Atom("  CA ", 100, 100);
   WalkToFirst(desk);
@@ -188,7 +189,7 @@ TEST_F(AtomWalkTest, ALoadThatFailsForgetsItToo) {
   WalkToNext(desk);
   ASSERT_EQ(AtomOfWalk(desk), 1);
 
-  desk.molecule.MolText = "";  // no atom, no extent: the fit divides by nothing
+  desk.molecule.MolText = "";  // no atom, no extent: the fit divides by zero
   EXPECT_THROW(LoadMolecule(desk), Failure);
 
   EXPECT_EQ(AtomOfWalk(desk), 0);
@@ -219,7 +220,7 @@ TEST_F(AtomWalkTest, ATurnEndsTheFourthPickToo) {
   EXPECT_EQ(WalkWords(desk), AtomWords(desk, 1));
 }
 
-TEST_F(AtomWalkTest, IsToldInWords) {
+TEST_F(AtomWalkTest, IsDescribedInWords) {
   SelectRow(desk, desk.main.AA_Lst, 1);  // glycine: N, CA, ...
   EXPECT_EQ(WalkWords(desk), "");
   WalkToNext(desk);
@@ -231,12 +232,12 @@ TEST_F(AtomWalkTest, IsToldInWords) {
   PickWalked(desk);
   EXPECT_EQ(WalkWords(desk), AtomWords(desk, 3) + ", picked as the second");
 
-  // A turn begins the cycle anew, and what was said of it is no longer true.
+  // A turn begins the cycle again, and what was said about it is no longer true.
   StepBar(desk, desk.main.VScroll1, 11);
   EXPECT_EQ(WalkWords(desk), AtomWords(desk, 3));
 }
 
-TEST_F(AtomWalkTest, TheWordsTellOfAtomsTooCloseAndOfOneOutside) {
+TEST_F(AtomWalkTest, TheWordsMentionAtomsTooCloseAndOneOutside) {
   Atom("  N  ", 100, 100);
   Atom("  CA ", 100, 100);
   Atom("  C  ", -40, 100);
@@ -248,7 +249,7 @@ TEST_F(AtomWalkTest, TheWordsTellOfAtomsTooCloseAndOfOneOutside) {
   EXPECT_EQ(WalkWords(desk), AtomWords(desk, 3) + ", outside the picture");
 }
 
-// What a command reads is left alone by the steps.
+// The steps leave alone what a command reads.
 TEST_F(AtomWalkTest, AStepTouchesNoPickAndDrawsNothing) {
   SelectRow(desk, desk.main.AA_Lst, 1);
   const auto picture = desk.main.Picture1.Image();

@@ -18,21 +18,21 @@ struct AtomWordsTest : testing::Test, DeskAtWork {
   std::string Words(int atom) const { return AtomWords(desk, atom); }
 };
 
-TEST_F(AtomWordsTest, TellElementNameResidueAndNumber) {
+TEST_F(AtomWordsTest, GiveElementNameResidueAndNumber) {
   Choose(*this, main.AA_Lst, "ALA");
   EXPECT_EQ(Words(1), "Nitrogen N of alanine, atom 1");
   EXPECT_EQ(Words(2), "Carbon CA of alanine, atom 2");
   EXPECT_EQ(Words(13), "Hydrogen H7 of alanine, atom 13");
 }
 
-// Its records say glycine, as those of every residue on the frame.
+// Its records say glycine, like those of every residue on the frame.
 TEST_F(AtomWordsTest, NameABuiltResidueAsItsListDoes) {
   Choose(*this, main.AA_Lst, "CYS");
   EXPECT_EQ(Words(1), "Nitrogen N of cysteine, atom 1");
   EXPECT_EQ(Words(11), "Sulphur SG of cysteine, atom 11");
 }
 
-TEST_F(AtomWordsTest, TellTheNumberOfTheResidueWhereThereAreSeveral) {
+TEST_F(AtomWordsTest, GiveTheNumberOfTheResidueIfThereAreSeveral) {
   Choose(*this, main.Pro_Lst, "Alfa");
   EXPECT_EQ(Words(7), "Carbon CA of alanine 2, atom 7");
   EXPECT_EQ(Words(10), "Side chain R of alanine 2, atom 10");
@@ -64,7 +64,7 @@ TEST_F(AtomWordsTest, AreEmptyForANumberThatNoAtomHas) {
   EXPECT_EQ(Words(14), "");
 }
 
-// The last row was a protein, so the key of the list of amino acids is an old one.
+// The last row was a protein, so the key of the list of amino acids is out of date.
 TEST_F(AtomWordsTest, ForgetTheBuiltResidueWithTheNextStructure) {
   Choose(*this, main.AA_Lst, "TRP");
   EXPECT_EQ(GeneratedKey(desk), "TRP");
@@ -73,7 +73,7 @@ TEST_F(AtomWordsTest, ForgetTheBuiltResidueWithTheNextStructure) {
   EXPECT_EQ(Words(2), "Carbon CA of alanine 1, atom 2");
 }
 
-// A click beside the rows takes the title's name away and leaves the structure.
+// A click beside the rows removes the name from the title and leaves the structure.
 TEST_F(AtomWordsTest, KnowABuiltResidueWithoutTheRow) {
   Choose(*this, main.AA_Lst, "SER");
   SelectRow(desk, main.AA_Lst, -1);

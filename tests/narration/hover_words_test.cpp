@@ -15,20 +15,20 @@ struct RestWordsTest : testing::Test, DeskAtWork {
   }
 };
 
-TEST_F(RestWordsTest, OverABuiltResidueTellTheAtomAndThenHowItWasPlaced) {
+TEST_F(RestWordsTest, OverABuiltResidueNameTheAtomAndThenSayHowItWasPlaced) {
   Choose(*this, main.AA_Lst, "SER");
   EXPECT_EQ(AtAtom(main.Picture1, 11),
             "Oxygen OG of serine, atom 11\n"
             "1.422 Å from CB, angle OG–CB–CA 108.1°, torsion OG–CB–CA–N 53.7°");
 }
 
-TEST_F(RestWordsTest, OverAStockStructureTellTheAtomAlone) {
+TEST_F(RestWordsTest, OverAStockStructureNameTheAtomAlone) {
   Choose(*this, main.Nuc_Lst, "PHS");
   EXPECT_EQ(AtAtom(main.Picture1, 3), "Phosphorus P of Phosphate, atom 3");
 }
 
-// A half is 2535 twips wide, 169 of its pixels for the 360 of the surface.
-TEST_F(RestWordsTest, OverAHalfOfASplitViewTellTheAtomThatItShowsThere) {
+// A half is 2535 twips wide: its 169 pixels show the 360 of the surface.
+TEST_F(RestWordsTest, OverAHalfOfASplitViewNameTheAtomThatItShowsThere) {
   Choose(*this, main.Nuc_Lst, "PHS");
   Click(desk, main.Bt3_Sterio);
   const double scale = 169.0 / 360;
@@ -37,14 +37,14 @@ TEST_F(RestWordsTest, OverAHalfOfASplitViewTellTheAtomThatItShowsThere) {
             "Phosphorus P of Phosphate, atom 3");
 }
 
-TEST_F(RestWordsTest, OverTheMapTellTheCircle) {
+TEST_F(RestWordsTest, OverTheMapDescribeTheCircle) {
   Choose(*this, main.Pro_Lst, "Beta");
   Click(desk, main.RCDP);
   const Stroke circle = desk.plot.Area[0].Image()->Strokes.front();
   EXPECT_TRUE(RestWords(desk, desk.plot.Area[0], circle.X1, circle.Y1).starts_with("Alanine "));
 }
 
-TEST_F(RestWordsTest, TellNoAtomWhileItSpins) {
+TEST_F(RestWordsTest, NameNoAtomWhileItSpins) {
   Choose(*this, main.AA_Lst, "ALA");
   Click(desk, main.P_Auto_Rotate);
   EXPECT_EQ(AtAtom(main.Picture1, 1), "");

@@ -51,23 +51,23 @@ std::vector<Said> Understood(const std::string& words) {
   return lines;
 }
 
-// A torsion of the survey has its magnitude beyond a right angle: 180 less that of the atoms. The
-// torsion is measured here by the planes of its atoms.
+// The survey shows a torsion by its size beyond a right angle: 180 less that of the atoms. Here
+// the torsion is measured by the planes of its atoms.
 double Surveyed(const Molecule& m, int a, int b, int c, int d) {
   const auto at = [&](int atom) { return Point{m.AtomX[atom], m.AtomY[atom], m.AtomZ[atom]}; };
   const double true_one = std::abs(TorsionOf(at(a), at(b), at(c), at(d)));
   return std::max(true_one, 180 - true_one);
 }
 
-TEST_F(MapWordsTest, NothingIsToldBeforeASurvey) {
+TEST_F(MapWordsTest, ThereAreNoWordsBeforeASurvey) {
   EXPECT_EQ(At(1, 70, 70, 1000), "");
   Choose(*this, main.Pro_Lst, "Alfa");
   EXPECT_EQ(At(1, 70, 70, 1000), "");
 }
 
-// Twelve residues of five atoms, the alpha carbon the second: row k is residue k + 1, whose alpha
-// carbon is atom 5 k + 2. Phi of the helix is negative and so is psi.
-TEST_F(MapWordsTest, EachCircleOfTheHelixTellsItsResidueAndItsTorsions) {
+// Twelve residues of five atoms, the second of which is the alpha carbon. So row k is residue k +
+// 1, whose alpha carbon is atom 5 k + 2. Phi and psi of the helix are negative.
+TEST_F(MapWordsTest, EachCircleOfTheHelixGivesItsResidueAndItsTorsions) {
   Survey("Alfa");
   const auto circles = Circles(1);
   ASSERT_EQ(circles.size(), 10U);
@@ -78,7 +78,7 @@ TEST_F(MapWordsTest, EachCircleOfTheHelixTellsItsResidueAndItsTorsions) {
     for (const Said& said : Understood(At(1, circles[k].X1, circles[k].Y1))) {
       if (said.Residue != residue) continue;
       told = true;
-      // The factor of the survey's degrees is 1.00002 too large: 0.003 of 180.
+      // The survey's factor for degrees is too large by 1.00002: that is 0.003 in 180.
       EXPECT_NEAR(said.Phi, -Surveyed(desk.molecule, ca - 4, ca - 1, ca, ca + 1), 0.06);
       EXPECT_NEAR(said.Psi, -Surveyed(desk.molecule, ca - 1, ca, ca + 1, ca + 4), 0.06);
     }
@@ -96,9 +96,9 @@ TEST_F(MapWordsTest, TheStrandHasPositivePsi) {
   EXPECT_GT(lines.front().Psi, 90);
 }
 
-// Residues of a sheet bear the names and numbers of their own chains, and each plotted one is told
+// Residues of a sheet have the names and numbers of their own chains. Each plotted residue is named
 // at its own circle.
-TEST_F(MapWordsTest, EveryPlottedResidueOfASheetIsToldAtOneCircle) {
+TEST_F(MapWordsTest, EveryPlottedResidueOfASheetIsNamedAtOneCircle) {
   Survey("PBS");
   std::set<std::string> residues;
   for (std::size_t area = 0; area < 4; ++area) {
@@ -113,7 +113,7 @@ TEST_F(MapWordsTest, EveryPlottedResidueOfASheetIsToldAtOneCircle) {
   EXPECT_FALSE(residues.contains("Alanine 47"));  // the first has no torsion before it
 }
 
-TEST_F(MapWordsTest, OnlyCirclesWithinReachAreTold) {
+TEST_F(MapWordsTest, OnlyCirclesWithinReachAreNamed) {
   Survey("Beta");
   const Stroke circle = Circles(0)[0];
   float leftmost = circle.X1;

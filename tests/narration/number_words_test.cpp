@@ -18,7 +18,7 @@ TEST(DegreeWords, HaveOneDecimalAndATrueMinus) {
   EXPECT_EQ(DegreeWords(0.26), "0.3°");
 }
 
-TEST(DegreeWords, KnowNoMinusBeforeZeroAndOneHalfTurn) {
+TEST(DegreeWords, HaveNoMinusBeforeZeroAndOnlyOneHalfTurn) {
   EXPECT_EQ(DegreeWords(-0.04), "0.0°");
   EXPECT_EQ(DegreeWords(-180), "180.0°");
   EXPECT_EQ(DegreeWords(-179.98), "180.0°");

@@ -20,7 +20,7 @@ TEST_F(PictureWordsTest, AnEmptyDeskHasWordsToo) {
   EXPECT_EQ(Words(), "Empty picture");
 }
 
-TEST_F(PictureWordsTest, TellStructureAtomsAndMode) {
+TEST_F(PictureWordsTest, GiveStructureAtomsAndMode) {
   ChooseAlanine();
   EXPECT_EQ(Words(), "Alanine, 13 atoms, wire frame");
   Click(desk, main.D_StB);
@@ -31,7 +31,7 @@ TEST_F(PictureWordsTest, TellStructureAtomsAndMode) {
   EXPECT_EQ(Words(), "Alanine, 13 atoms, wire frame");
 }
 
-TEST_F(PictureWordsTest, TellTheWaysToDrawAChain) {
+TEST_F(PictureWordsTest, NameTheWaysToDrawAChain) {
   Choose(*this, main.Pro_Lst, "Alfa");
   const std::string chain = "Alpha helix structure (polypeptide), 60 atoms, ";
   Click(desk, main.D_Ca);
@@ -42,7 +42,7 @@ TEST_F(PictureWordsTest, TellTheWaysToDrawAChain) {
   EXPECT_EQ(Words(), chain + "cartoon");
 }
 
-TEST_F(PictureWordsTest, TellThePlanesAloneAndOverTheAtoms) {
+TEST_F(PictureWordsTest, MentionThePlanesAloneAndOverTheAtoms) {
   Choose(*this, main.Pro_Lst, "Alfb");
   Click(desk, main.OPB);
   EXPECT_EQ(Words(), "Alpha helix structure (polyalanine), 60 atoms, peptide planes alone");
@@ -51,7 +51,7 @@ TEST_F(PictureWordsTest, TellThePlanesAloneAndOverTheAtoms) {
             "Alpha helix structure (polyalanine), 60 atoms, ball and stick, peptide planes");
 }
 
-TEST_F(PictureWordsTest, TellLabelsAndHydrogenBonds) {
+TEST_F(PictureWordsTest, MentionLabelsAndHydrogenBonds) {
   ChooseAlanine();
   Click(desk, main.Bt3_Label);
   EXPECT_EQ(Words(), "Alanine, 13 atoms, wire frame, labels");
@@ -59,16 +59,16 @@ TEST_F(PictureWordsTest, TellLabelsAndHydrogenBonds) {
   EXPECT_EQ(Words(), "Alanine, 13 atoms, wire frame, hydrogen bonds, labels");
 }
 
-// A trace prints no labels, so they are not told though they are on.
-TEST_F(PictureWordsTest, TellNoLabelsOfATrace) {
+// A trace prints no labels, so the words do not mention them, even if they are on.
+TEST_F(PictureWordsTest, MentionNoLabelsOfATrace) {
   Choose(*this, main.Pro_Lst, "Alfa");
   Click(desk, main.Bt3_Label);
   Click(desk, main.D_Ca);
   EXPECT_EQ(Words(), "Alpha helix structure (polypeptide), 60 atoms, alpha carbon trace");
 }
 
-// A split view widens thin bonds to two pixels; they are wires all the same.
-TEST_F(PictureWordsTest, TellTheComposedViews) {
+// A split view widens thin bonds to two pixels, but they are still called wires.
+TEST_F(PictureWordsTest, NameTheComposedViews) {
   ChooseAlanine();
   Click(desk, main.Bt3_Sterio);
   EXPECT_EQ(Words(), "Alanine, 13 atoms, wire frame, stereo pair");
@@ -82,7 +82,7 @@ TEST_F(PictureWordsTest, TellTheComposedViews) {
   EXPECT_EQ(Words(), "Alanine, 13 atoms, wire frame");
 }
 
-TEST_F(PictureWordsTest, TellThatItSpins) {
+TEST_F(PictureWordsTest, SayThatItSpins) {
   ChooseAlanine();
   Click(desk, main.P_Auto_Rotate);
   EXPECT_EQ(Words(), "Alanine, 13 atoms, wire frame, spinning");

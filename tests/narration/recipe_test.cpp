@@ -24,14 +24,14 @@ struct RecipeTest : testing::Test, DeskAtWork {
   void Build(std::string_view key) { Choose(*this, main.AA_Lst, key); }
 };
 
-// The first five are the frame; H2 stands opposite to C, 109 degrees from CA.
-TEST_F(RecipeTest, TellsLengthAngleAndTorsionByTheAtomsThatSpanThem) {
+// The first five atoms are the frame. H2 is opposite C, 109 degrees from CA.
+TEST_F(RecipeTest, GivesLengthAngleAndTorsionByTheAtomsThatSpanThem) {
   Build("SER");
   EXPECT_EQ(Recipe(11), "1.422 Å from CB, angle OG–CB–CA 108.1°, torsion OG–CB–CA–N 53.7°");
 }
 
-// 289 is 109 behind the axis and half a turn; 360 - 295.04 and 180 - 69.98 are what CB stands at.
-TEST_F(RecipeTest, TellsTheEntriesWhereTheyCountOtherwise) {
+// 289 is 109 on the other side of the axis plus half a turn. CB is at 360 - 295.04 and 180 - 69.98.
+TEST_F(RecipeTest, GivesTheEntriesWhereTheyCountDifferently) {
   Build("ALA");
   EXPECT_EQ(
       Recipe(8),
@@ -41,13 +41,13 @@ TEST_F(RecipeTest, TellsTheEntriesWhereTheyCountOtherwise) {
             "295.04°)");
 }
 
-TEST_F(RecipeTest, SaysOfTheFrameThatItStands) {
+TEST_F(RecipeTest, SaysThatTheFrameIsFixed) {
   Build("ALA");
   for (int i = 1; i <= 5; ++i) EXPECT_EQ(Recipe(i), kFixed);
   EXPECT_NE(Recipe(6), kFixed);
 }
 
-TEST_F(RecipeTest, SaysWhenTheLengthIsNoBond) {
+TEST_F(RecipeTest, SaysWhenTheLengthIsNotABond) {
   Build("THR");
   EXPECT_THAT(Recipe(12),
               testing::StartsWith("2.381 Å from OG1 (no bond), angle CG2–OG1–CB 38.6°"));
@@ -61,7 +61,7 @@ TEST_F(RecipeTest, IsEmptyForWhatWasNotBuiltHere) {
   EXPECT_EQ(Recipe(2), "");
 }
 
-TEST_F(RecipeTest, IsGoneWhenAnotherStructureTakesTheDesk) {
+TEST_F(RecipeTest, IsGoneWithTheNextStructure) {
   Build("ALA");
   ASSERT_NE(Recipe(13), "");
   Choose(*this, main.Nuc_Lst, "RIB");
@@ -84,7 +84,7 @@ TEST_F(RecipeTest, StaysTheSameHoweverTheViewIsTurned) {
   EXPECT_EQ(Recipe(13), before);
 }
 
-// ---- The words against the atoms as read, by routines that are not the recipe's own. ----
+// ---- The words compared with the atoms as read, by routines that are not the recipe's own. ----
 
 double InDegrees(double radians) { return radians * 180 / std::numbers::pi; }
 
@@ -121,9 +121,9 @@ Said Understood(const std::string& words) {
           part[3].matched};
 }
 
-// A coordinate is cut behind its third decimal, so each end of a line is up to 0.001 off in each of
-// three directions: a length by 2 * 0.001 * root of 3, and an angle by that against the shortest
-// arm it is measured at. Words are rounded to 0.05 of a degree.
+// A coordinate is cut off after its third decimal, so each end of a line is up to 0.001 off in each
+// of three directions. A length is off by up to 2 * 0.001 * root of 3, and an angle by that divided
+// by its shortest arm. Words are rounded to 0.05 of a degree.
 constexpr double kLengthOff = 0.0035;
 
 class RecipeOf : public testing::TestWithParam<std::string_view> {};
@@ -162,9 +162,9 @@ TEST_P(RecipeOf, AgreesWithTheAtomsAsTheyWereRead) {
   }
 }
 
-// The entries, read back by the rule without quadrants, tell the same atom: an entry may have the
-// other sense or lack half a turn, and its angle may complete 180 or 360 degrees.
-TEST_P(RecipeOf, TellsTheEntriesOfTheTableWhereTheyDiffer) {
+// The entries, read back by the rule without quadrants, give the same atom: an entry may have the
+// other sense or lack half a turn, and its angle may be the rest to 180 or 360 degrees.
+TEST_P(RecipeOf, GivesTheEntriesOfTheTableWhereTheyDiffer) {
   DeskAtWork work;
   Choose(work, work.desk.main.AA_Lst, GetParam());
   const auto rows = PlacementsOf(GetParam());

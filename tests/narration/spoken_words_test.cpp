@@ -25,7 +25,7 @@ TEST(SpokenWords, ThePictureIsCalledByWhatItShows) {
   EXPECT_EQ(NameNow(work.desk, work.desk.main.Bt3_Dts), SpokenName(work.desk.main.Bt3_Dts));
 }
 
-TEST(SpokenWords, WhatIsPickedAndMeasuredIsNoPartOfTheName) {
+TEST(SpokenWords, WhatIsPickedAndMeasuredIsNotPartOfTheName) {
   DeskAtWork work;
   SelectRow(work.desk, work.desk.main.AA_Lst, kAlanine);
   const std::string name = NameNow(work.desk, work.desk.main.Picture1);
@@ -37,7 +37,7 @@ TEST(SpokenWords, WhatIsPickedAndMeasuredIsNoPartOfTheName) {
   ASSERT_EQ(work.desk.measure.PickState, 1);
 }
 
-TEST(SpokenWords, ThePictureTellsWhereTheWalkStandsAndElseWhatAPressDoes) {
+TEST(SpokenWords, ThePictureSaysWhereTheWalkIsOrElseWhatAPressDoes) {
   DeskAtWork work;
   SelectRow(work.desk, work.desk.main.AA_Lst, kAlanine);
   const Control& picture = work.desk.main.Picture1;
@@ -50,8 +50,8 @@ TEST(SpokenWords, ThePictureTellsWhereTheWalkStandsAndElseWhatAPressDoes) {
   EXPECT_NE(WalkWords(work.desk), "");
 }
 
-// The last atom of alanine is one that was built; the helix is a text, and nothing was.
-TEST(SpokenWords, TheWalkTellsHowABuiltAtomWasPlacedAndNothingOfOthers) {
+// The last atom of alanine was built. The helix is a text, and none of it was built.
+TEST(SpokenWords, TheWalkSaysHowABuiltAtomWasPlacedAndNothingAboutOthers) {
   DeskAtWork work;
   SelectRow(work.desk, work.desk.main.AA_Lst, kAlanine);
   WalkToLast(work.desk);

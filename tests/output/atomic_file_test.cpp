@@ -28,7 +28,7 @@ struct Aside : testing::Test {
 
   std::string outer, folder;
 
-  // Names of everything below the outer folder.
+  // The names of everything below the outer folder.
   std::vector<std::string> All() const {
     std::vector<std::string> names;
     for (const auto& entry : fs::recursive_directory_iterator(outer)) {
@@ -87,12 +87,12 @@ TEST_F(Aside, NamesThatLeadOutOfTheFolderWriteNothing) {
   EXPECT_EQ(All(), std::vector<std::string>{"own"});
 }
 
-TEST_F(Aside, AFolderThatIsNotThereIsToldInPlainWords) {
+TEST_F(Aside, AMissingFolderIsReportedInPlainWords) {
   EXPECT_EQ(ClauseIn(folder + "/none", "a.gif"),
             folder + "/none/a.gif could not be written: there is no such folder");
 }
 
-TEST_F(Aside, AFileInPlaceOfTheFolderIsToldInPlainWords) {
+TEST_F(Aside, AFileInPlaceOfTheFolderIsReportedInPlainWords) {
   std::ofstream(outer + "/file") << "x";
   EXPECT_EQ(ClauseIn(outer + "/file", "a.gif"),
             outer + "/file/a.gif could not be written: there is no such folder");
@@ -104,7 +104,7 @@ TEST_F(Aside, AFolderInPlaceOfTheFileStaysAndNothingIsLeftBesideIt) {
   EXPECT_EQ(All(), (std::vector<std::string>{"own", "own/a.gif"}));
 }
 
-// The limit of the file's size stands for a disk that fills up half way.
+// A limit on the file's size plays the part of a disk that fills up half way.
 TEST_F(Aside, AWriteThatFailsHalfWayLeavesTheOlderFileAndNothingBesideIt) {
   WriteAside(folder, "a.gif", kOld);
   rlimit before{};

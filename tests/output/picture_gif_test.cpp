@@ -20,7 +20,8 @@ Bitmap Plain(int width, int height, Colour colour) {
   return {width, height, std::vector<std::uint32_t>(width * height, WordOf(colour))};
 }
 
-// One picture of every colour of the palette but the last, which is none: 17 by 15 pixels.
+// One picture of every colour of the palette except the last, which is not a colour: 17 by 15
+// pixels.
 Bitmap EveryColour() {
   Bitmap picture = Plain(17, 15, kPalette0);
   std::copy_n(PicturePalette().Words.begin(), 255, picture.Words.begin());
@@ -58,8 +59,8 @@ TEST(GifPalette, HasEachFifthBetweenBlackAndWhite) {
   }
 }
 
-// Half of the cube's step is 25, more than a dark ground itself has: a glow became a bright disc.
-// The table's own steps are 13 at most, so that half of one is left.
+// Half of the cube's step is 25, more than a dark background itself has, so a glow became a bright
+// disc. The table's own steps are 13 at most, so the error is at most half of that.
 TEST(GifPalette, HasTheShadesOfTheBackgroundPictures) {
   Colours colours;
   GifColours map(PicturePalette());
@@ -85,14 +86,15 @@ TEST(GifPalette, HoldsTheZonesOfTheMapExactly) {
 
 TEST(GifPalette, GivesWhatItDoesNotHoldTheNearestColour) {
   GifColours map(PicturePalette());
-  // Next to black, to the side chain's pink (255, 20, 147) and to white; nothing else is as near.
+  // Next to black, to the side chain's pink (255, 20, 147) and to white; no other colour is as
+  // near.
   EXPECT_EQ(PicturePalette().Words[map.IndexOf(WordOf(Rgb(1, 0, 1)))], WordOf(kPalette0));
   EXPECT_EQ(PicturePalette().Words[map.IndexOf(WordOf(Rgb(254, 22, 146)))],
             WordOf(Rgb(255, 20, 147)));
   EXPECT_EQ(PicturePalette().Words[map.IndexOf(WordOf(Rgb(252, 251, 253)))], WordOf(kPalette15));
 }
 
-TEST(GifPalette, NeverGivesTheIndexThatIsNoColour) {
+TEST(GifPalette, NeverGivesTheIndexThatIsNotAColour) {
   GifColours map(PicturePalette());
   for (int red = 0; red < 256; red += 15) {
     for (int green = 0; green < 256; green += 15) {
@@ -106,7 +108,7 @@ TEST(GifPalette, NeverGivesTheIndexThatIsNoColour) {
 TEST(GifPalette, RemembersEachColourAsItsOwn) {
   GifColours map(PicturePalette());
   std::vector<std::uint8_t> first;
-  // Far more colours than it can remember, twice: many have been forgotten by the second time.
+  // Far more colours than it can remember, twice: by the second time it has forgotten many.
   const auto word = [](std::uint32_t i) { return 0xFF000000u | (i * 7919u & 0xFFFFFFu); };
   for (std::uint32_t i = 0; i < 20000; ++i) first.push_back(map.IndexOf(word(i)));
   for (std::uint32_t i = 20000; i-- > 0;) {
@@ -147,13 +149,13 @@ TEST(GifFile, OfAnimationsTheFirstFrameIsRead) {
 
 TEST(GifFile, IsReadInAnyPalette) {
   FileBytes other = GifOf(Plain(1, 1, kPalette0));  // black is colour 0 of our palette,
-  other[13] = 1;                                    // which stands behind 13 bytes of heading
+  other[13] = 1;                                    // which comes after 13 bytes of header
   other[14] = 2;
   other[15] = 3;
   EXPECT_EQ(FirstFrameOf(other).value().Words, std::vector<std::uint32_t>{0xFF010203});
 }
 
-TEST(GifFile, IsNotReadWhenItIsNoneOrCutShort) {
+TEST(GifFile, IsNotReadIfItIsNotAGifOrIsCutShort) {
   EXPECT_FALSE(FirstFrameOf({}));
   EXPECT_FALSE(FirstFrameOf(FileBytes(1000, 'G')));
   const FileBytes whole = GifOf(EveryColour());
@@ -224,7 +226,7 @@ TEST(GifAnimation, GrowsWithALargerPictureAndIsBlackRoundASmallerOne) {
   EXPECT_EQ(gif.Frames[2].Screen.Words, last.Words);
 }
 
-TEST(GifAnimation, IsNotAddedToWhatIsNoGif) {
+TEST(GifAnimation, IsNotAddedToWhatIsNotAGif) {
   EXPECT_FALSE(WithOneMoreFrame({}, EveryColour()));
   EXPECT_FALSE(WithOneMoreFrame({'B', 'M', 1, 2, 3, 4}, EveryColour()));
   EXPECT_FALSE(WithOneMoreFrame(FileBytes(1000, 'G'), EveryColour()));
@@ -238,8 +240,8 @@ TEST(GifAnimation, IsNotAddedToWhenItIsCutShortAnywhere) {
   }
 }
 
-// A header is 13 bytes, its width at 6; 256 colours follow, then two extensions of 19 and 8 bytes,
-// then the frame, its place at 1 and its size at 5.
+// A header is 13 bytes, with its width at 6. Then follow 256 colours, two extensions of 19 and 8
+// bytes, and the frame, with its place at 1 and its size at 5.
 TEST(GifAnimation, IsNotAddedToAFileThatClaimsMoreThanAnyScreenHas) {
   const FileBytes film = AnimationOf(Plain(8, 6, kPalette15));
   constexpr std::size_t kFrame = 13 + 3 * 256 + 19 + 8;
@@ -257,10 +259,10 @@ TEST(GifAnimation, IsNotAddedToAFileThatClaimsMoreThanAnyScreenHas) {
   // 8192 by 8193 pixels are more than 2^26.
   EXPECT_TRUE(WithOneMoreFrame(with({{6, 512}, {8, 512}}), next).has_value());
   EXPECT_FALSE(WithOneMoreFrame(with({{6, 8192}, {8, 8193}}), next).has_value());
-  // A frame of 8 by 6 whose left edge or whose width takes it past a screen of 8.
+  // A frame of 8 by 6 whose left edge or width takes it past a screen of 8.
   EXPECT_FALSE(WithOneMoreFrame(with({{kFrame + 1, 1}}), next).has_value());
   EXPECT_FALSE(WithOneMoreFrame(with({{kFrame + 5, 9}}), next).has_value());
-  // All of the largest screen in one frame, of which there are 48 pixels.
+  // A frame as large as the largest screen, with data for 48 pixels only.
   EXPECT_FALSE(
       WithOneMoreFrame(with({{6, 8192}, {8, 8192}, {kFrame + 5, 8192}, {kFrame + 7, 8192}}), next)
           .has_value());
@@ -268,11 +270,11 @@ TEST(GifAnimation, IsNotAddedToAFileThatClaimsMoreThanAnyScreenHas) {
 
 TEST(GifAnimation, IsNotAddedToAGifOfOtherColours) {
   FileBytes other = AnimationOf(EveryColour());
-  ++other[13 + 3];  // the first part of colour 1; the palette stands behind 13 bytes of heading
+  ++other[13 + 3];  // the first part of colour 1; the palette comes after 13 bytes of header
   EXPECT_FALSE(WithOneMoreFrame(other, EveryColour()));
 }
 
-// Makes the frames of a recording in memory, together and each for itself.
+// Makes the frames of a recording in memory, both together and each by itself.
 struct FilmingPlatform : FakePlatform {
   Raster raster;
   FileBytes film;

@@ -1,4 +1,4 @@
-// Names on the map: which come where, and which stay.
+// Names on the map: which appear where, and which stay.
 
 #include "ramachandran/map_names.h"
 
@@ -26,8 +26,8 @@ struct Hover : DeskAtWork, testing::Test {
   }
 };
 
-// The places of the marks, written down a second time from the map itself: name, area, first and
-// last pixel that shows it.
+// The places of the marks, taken a second time from the map itself: name, area, and the first and
+// last pixel that show it.
 struct Mark {
   MapName Name;
   int Area, Left, Right, Top, Bottom;

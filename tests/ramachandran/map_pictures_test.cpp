@@ -1,4 +1,5 @@
-// The pictures of the map: what the maker draws is what is kept, and the marks lie under the hover.
+// The pictures of the map: those kept are what the maker draws, and the marks lie under the hover
+// regions.
 
 #include "ramachandran/map_pictures.h"
 
@@ -59,7 +60,7 @@ TEST(MapPictures, Are140PixelsSquare) {
   }
 }
 
-// Extents of the zones as they are laid down; an edge may be off by the pixel that it shares.
+// The required extents of the zones. An edge may be off by the pixel that it shares.
 struct ZoneRow {
   int Map;
   std::uint32_t Word;

@@ -46,7 +46,7 @@ TEST_F(MapWalk, GoesOnFromTheNameThatThePointerHasShown) {
   EXPECT_EQ(Shown(), std::vector{Extended});
 }
 
-TEST_F(MapWalk, DoesNothingInAWindowThatDoesNotShow) {
+TEST_F(MapWalk, DoesNothingInAHiddenWindow) {
   desk.plot.Hide();
   ShowNextMapName(desk);
   EXPECT_TRUE(Shown().empty());

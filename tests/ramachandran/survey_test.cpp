@@ -40,7 +40,7 @@ TEST_F(SurveyTest, OfTheStrandHasFiveRowsAndFourCirclesTopLeft) {
 }
 
 TEST_F(SurveyTest, OfTheSheetsPlotsEveryRowButTheLast) {
-  // An alpha carbon a residue, but the first residue's: 20 and 21 residues.
+  // One alpha carbon for each residue except the first: 20 and 21 residues.
   Survey(kPbs);
   EXPECT_EQ(desk.survey.PhiCount, 19);
   const auto parallel = Circles();
@@ -53,8 +53,8 @@ TEST_F(SurveyTest, OfTheSheetsPlotsEveryRowButTheLast) {
 
 TEST_F(SurveyTest, AStepThatMeetsAnAlphaCarbonAfterAGlycineIsUsedAsItIs) {
   // The seventh residue of the parallel sheet has four atoms, 31 to 34. So from its alpha carbon 32
-  // the step of four leads to atom 36, an alpha carbon where an N is looked for, and from 36 back
-  // to 32, where a C is looked for. They are rows 6 and 7.
+  // the step of four leads to atom 36, an alpha carbon where an N should be. From 36 the step leads
+  // back to 32, where a C should be. They are rows 6 and 7.
   Survey(kPbs);
   const Molecule& atoms = desk.molecule;
   ASSERT_EQ(ShortName(atoms.AtomName[32]), "CA");
@@ -69,7 +69,7 @@ TEST_F(SurveyTest, AStepThatMeetsAnAlphaCarbonAfterAGlycineIsUsedAsItIs) {
     const double size = std::abs(TorsionOf(at(a), at(b), at(c), at(d)));
     return std::min(size, 180 - size);
   };
-  // A row holds its place in the area; back from there to its angle.
+  // A row holds its place in the area; this goes from there back to its angle.
   const auto& survey = desk.survey;
   const double half_width = desk.plot.Area[0].InnerWidth() / 2;
   const double half_height = desk.plot.Area[0].InnerHeight() / 2;
@@ -84,10 +84,10 @@ TEST_F(SurveyTest, AStepThatMeetsAnAlphaCarbonAfterAGlycineIsUsedAsItIs) {
 }
 
 // The torsions as the program shows them: -57 comes out as -123, since the arctangent knows no
-// quadrant, and -47 as -133; -119 and +113 stand as they are.
+// quadrant, and -47 as -133; -119 and +113 do not change.
 TEST_F(SurveyTest, ShowsTheHelixNearItsTorsions) {
-  // The plot pass overwrites the rows with places, so the ranges are looked at. The last psi is
-  // left to the store's history, so phi alone is exact.
+  // The plot pass overwrites the rows with places, so the test checks the ranges. The last psi
+  // depends on the store's history, so only phi is exact.
   Survey(kAlfa);
   EXPECT_NEAR(desk.survey.PhiMax, -123, 0.2);
   EXPECT_NEAR(desk.survey.PhiMid, -123, 0.2);
@@ -152,8 +152,8 @@ TEST_F(SurveyTest, CaptionsNameTheStructureAndStayForOthers) {
 }
 
 TEST_F(SurveyTest, KeepsItsStepOfNineForThePolyalanineHelix) {
-  // Alpha carbons at 2, 12, ... 52: with a step of nine all the neighbours of a regular helix are
-  // met.
+  // Alpha carbons at 2, 12, ... 52: with a step of nine the survey finds all the neighbours of a
+  // regular helix.
   SelectRow(desk, desk.main.Pro_Lst, kAlfb);
   Click(desk, desk.main.RCDP, Reach::Forced);
   EXPECT_EQ(desk.survey.PhiCount, 5);
@@ -169,7 +169,7 @@ TEST_F(SurveyTest, OpensTheWindowClosesThePanelsAndTurnsPrintingToIt) {
   EXPECT_EQ(desk.stereo.SplitViewOn, 2);
 }
 
-TEST_F(SurveyTest, StaysOpenToTheAtomsInStoreAfterGetMolecule) {
+TEST_F(SurveyTest, StaysAvailableForTheAtomsInStoreAfterGetMolecule) {
   Survey(kAlfa);
   Click(desk, desk.main.Bt_Blt_AA);
   ASSERT_EQ(desk.molecule.MoleculeReady, 0);

@@ -15,7 +15,7 @@ T& As(Orvane_Desk& desk, const std::string& name) {
 
 void AddUsesOf(const Control& control, std::vector<Command>& commands) {
   const std::string name = control.FullName();
-  // Without a handler nothing comes of it.
+  // Without a handler it does nothing.
   const auto add = [&](const char* use, EventKind kind, std::function<void(Orvane_Desk&)> act) {
     if (control.Handles(kind)) commands.push_back({std::string(use) + " " + name, std::move(act)});
   };
@@ -86,7 +86,7 @@ void RecordUntilTick(Orvane_Desk& desk, int ticks) {
   for (int i = 0; i < ticks; ++i) Tick(desk, desk.main.Timer1);
 }
 
-// The menu of music is kept from the user; its commands are there all the same.
+// The music menu is hidden from the user, but its commands exist.
 void OpenMusic(Orvane_Desk& desk) {
   SelectHelix(desk);
   for (MenuEntry* entry : {&desk.main.BMusic, &desk.main.PMSC1}) {

@@ -8,7 +8,7 @@
 namespace orvane {
 namespace {
 
-// A name that stands in the source and not on the screen, "Bt3_Reset", has no place in a box.
+// A name from the source that is not on the screen, such as "Bt3_Reset", does not belong in a box.
 bool IsNameOfAControl(const Orvane_Desk& desk, const std::string& subject) {
   const Control* control = desk.FindControl(subject);
   return control != nullptr && control->Caption != subject;
@@ -57,7 +57,7 @@ void ExpectToGoOn(FailingDesk& work, const Command& command) {
   StepBar(desk, desk.main.VScroll1, 90);
   Tick(desk, desk.main.Timer1);
   work.platform.Answers = {"abc"};
-  desk.recording.GifRecording = 0;  // that a recording goes on is as it should be
+  desk.recording.GifRecording = 0;  // a recording should indeed go on
   Click(desk, desk.main.S_bmp);
   EXPECT_EQ(work.Count("save BMP abc.bmp "), 1);
   EXPECT_EQ(work.Count("failure "), 0);

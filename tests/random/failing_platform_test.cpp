@@ -1,5 +1,5 @@
-// Whatever the outside world fails at, and whichever command asks for it, the desk stays whole and
-// the next command works.
+// Whatever call to the outside world fails, and whichever command makes it, the desk stays whole
+// and the next command works.
 #include "random/failing_platform.h"
 
 #include <algorithm>
@@ -29,7 +29,7 @@ void FailOnce(const Command& command, const Situation& situation, Call call, int
   for (const Window* window : work.desk.windows) {
     EXPECT_NE(window->MousePointer, kPointerHourglass) << window->Name;
   }
-  // Some commands end in a failure of their own, and then it is its box that fails.
+  // Some commands end in a failure of their own, and then its box is what fails.
   const bool is_told = call != Call::FailureBox;
   if (is_told && how == Way::Clause) ExpectPlainBox(work, kClause);
   if (is_told && how == Way::Memory) ExpectPlainBox(work, kNoMemory);
@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(EveryCommand, AFailingWorld, ::testing::ValuesIn(Situat
                            return name;
                          });
 
-// So that no call goes untried because nothing asks for it any more.
+// So that no call is left untested because nothing makes it any more.
 TEST(AFailingWorldIsComplete, EachCallIsReachedByACommand) {
   std::set<Call> reached;
   for (const Situation& situation : Situations()) {

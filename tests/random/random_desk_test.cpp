@@ -1,4 +1,5 @@
-// A user without a plan: a hundred thousand actions, and behind each what holds at every desk.
+// A user without a plan: a hundred thousand actions, and after each a check of what must always
+// hold.
 #include <algorithm>
 #include <cmath>
 #include <csignal>
@@ -40,7 +41,7 @@ TEST(ARandomDesk, PlaysTheSameFromTheSameSeed) {
   EXPECT_NE(lines_of(7), lines_of(8));
 }
 
-TEST(ARandomDesk, ReadsEveryPictureBehindEachLineOfAScript) {
+TEST(ARandomDesk, ReadsEveryPictureAfterEachLineOfAScript) {
   Sitting session;
   ASSERT_EQ(PlayRandomLine(session, "enter"), "");
   auto picture = std::make_shared<Picture>();
@@ -50,7 +51,7 @@ TEST(ARandomDesk, ReadsEveryPictureBehindEachLineOfAScript) {
   EXPECT_EQ(life.Wrong, "L_Img holds texts that no stroke prints");
 }
 
-// A release puts back what was saved, and that was nothing at the start alone.
+// A release restores what was saved. Only at the start was nothing saved.
 TEST(ARandomDesk, LosesItsAxisOnlyWhereNoneWasSaved) {
   Sitting session;
   LastSeen last;
@@ -79,7 +80,7 @@ TEST(ARandomDesk, PlaysWhatNestsInsideATick) {
   EXPECT_EQ(session.Desk().view.AutoRotateOn, 0);
 }
 
-TEST(ARandomDesk, HearsOfALineThatIsNoActionAlsoInsideATick) {
+TEST(ARandomDesk, ReportsALineThatIsNotAnActionEvenInsideATick) {
   Sitting session;
   for (const char* line : {"enter", "select Pro_Lst 1", "click P_Auto_Rotate",
                            "#nest click Nowhere", "#nest click Bt3_Label"}) {
@@ -92,7 +93,7 @@ TEST(ARandomDesk, HearsOfALineThatIsNoActionAlsoInsideATick) {
   EXPECT_NE(PlayRandomLine(session, "#enter Nowhere"), "");
 }
 
-// What a life never does it does not try.
+// What a life never does is not tested.
 TEST(ARandomDesk, MakesEveryMoveOfItsLanguage) {
   const char* const moves[] = {
       "#nest",
@@ -163,7 +164,7 @@ TEST(ARandomDesk, ClosesAWindowThatShows) {
   EXPECT_TRUE(session.player.platform->Ended);
 }
 
-TEST(ARandomDesk, MakesTheHourglassGoWhenASaveFails) {
+TEST(ARandomDesk, RemovesTheHourglassWhenASaveFails) {
   Sitting session;
   LastSeen last;
   for (const char* line : {"enter", "#save-fails", "answer abc", "click S_bmp"}) {
@@ -173,8 +174,8 @@ TEST(ARandomDesk, MakesTheHourglassGoWhenASaveFails) {
   EXPECT_EQ(WhatIsWrong(session, last, true), "");
 }
 
-// 1.1 to the power of 7500 is beyond 1.8e308, and 0.9 to that power below all numbers but 0. At the
-// half of the bar each thumb let go is one more step the same way.
+// 1.1 to the power of 7500 is beyond 1.8e308, and 0.9 to that power is below all numbers but 0. On
+// either half of the bar, each release of the thumb is one more step the same way.
 TEST(ARandomDesk, GoesOnWhereTheZoomRunsOutOfNumbers) {
   for (const char* start : {"bar ZoomBar 50", "bar ZoomBar -50"}) {
     Sitting session;

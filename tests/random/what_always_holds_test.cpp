@@ -1,4 +1,4 @@
-// Each check behind an action sees the damage that it is there for.
+// Each check after an action sees the damage that it is meant to see.
 #include <gtest/gtest.h>
 
 #include "controls/surface.h"
@@ -7,16 +7,16 @@
 namespace orvane {
 namespace {
 
-// So that a check that sees nothing does not pass for a desk without faults.
+// So that a check that sees nothing is not mistaken for a desk without faults.
 struct Damage {
   const char* Name;
-  const char* Wrong;  // what is said of it
+  const char* Wrong;  // what the check says about it
   void (*Do)(Orvane_Desk& desk);
 };
 
 class WhatAlwaysHolds : public ::testing::TestWithParam<Damage> {};
 
-TEST_P(WhatAlwaysHolds, IsMissedByNameWhenItDoesNot) {
+TEST_P(WhatAlwaysHolds, IsReportedByNameWhenItDoesNot) {
   Sitting session;
   LastSeen last;
   for (const char* line : {"enter", "select Pro_Lst 1", "click Bt3_Sterio"}) {

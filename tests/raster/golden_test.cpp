@@ -1,6 +1,6 @@
-// Small scenes whose pixels are kept, and are the same to the byte on every machine.
+// Small scenes whose pixels are kept. They are the same to the byte on every machine.
 //
-// When the look of the picture is changed on purpose, write the pictures anew, look at them, and
+// If you change the look of the picture on purpose, write the pictures again, look at them, and
 // commit them with the change:
 //   ORVANE_WRITE_GOLDEN=1 build/dev/bin/orvane_tests --gtest_filter='*Golden*'
 #include <cstdlib>

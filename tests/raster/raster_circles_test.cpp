@@ -7,7 +7,7 @@
 namespace orvane {
 namespace {
 
-TEST(RasterCircles, ACircleIsFilledUpToItsOutlineAndEndsBehindIt) {
+TEST(RasterCircles, ACircleIsFilledUpToItsOutlineAndEndsAfterIt) {
   // Radius 3 and a pen of 1: red up to 2.5 from the centre, white to 3.5, then nothing.
   SmallPicture picture(11, 11);
   picture.Circle(5, 5, 3, Rgb(255, 0, 0), kWhite);
@@ -89,15 +89,15 @@ TEST(RasterCircles, ALargeEmptyCircleShowsWhatIsBelow) {
 }
 
 TEST(RasterCircles, ALargeCircleHasNoGapBetweenRimAndCore) {
-  // Of a ball of 20 pixels at a scale of 4 only the size differs from a sprite's. Down its middle
-  // and across it: filled up to 79.5 - 0.5, then the outline.
+  // A ball of 20 pixels at a scale of 4 differs from a sprite only in its size. Both down its
+  // middle and across it, it is filled up to 79.5 - 0.5; then comes the outline.
   SmallPicture picture(60, 60);
   picture.Circle(30, 30, 20, Rgb(255, 0, 0), Rgb(255, 0, 0));
   const Bitmap bitmap = Raster().Paint(picture, 4);
 
   for (int y = 0; y < 240; ++y) {
     for (int x = 0; x < 240; ++x) {
-      // The centre is at (30 + 0.5) * 4 - 0.5 and the outline ends 2 behind the radius of 80.
+      // The centre is at (30 + 0.5) * 4 - 0.5 and the outline ends 2 beyond the radius of 80.
       const double distance = std::hypot(x - 121.5, y - 121.5);
       if (distance > 81.5 && distance < 82.5) continue;
       EXPECT_EQ(RedAt(bitmap, x, y), distance < 82 ? 255 : 0) << x << " " << y;

@@ -8,8 +8,8 @@
 namespace orvane {
 namespace {
 
-// Pictures of a few pixels in white on black, so that a pixel's red is its cover. 128 is a half:
-// 255 * 128 / 256 is 127.5, and goes up.
+// Pictures of a few pixels in white on black, so that a pixel's red is its coverage. 128 is a half:
+// 255 * 128 / 256 is 127.5, and is rounded up.
 
 TEST(RasterLines, ALineOfWidth1OnPixelCentresIsOnePixelWideAndHasBothEnds) {
   SmallPicture picture(7, 3);
@@ -21,7 +21,7 @@ TEST(RasterLines, ALineOfWidth1OnPixelCentresIsOnePixelWideAndHasBothEnds) {
             "  0   0   0   0   0   0   0\n");
 }
 
-TEST(RasterLines, AnUprightLineIsALyingOneTurned) {
+TEST(RasterLines, AVerticalLineIsAHorizontalOneTurned) {
   SmallPicture picture(3, 5);
   picture.Line(1, 3, 1, 1, 1);
 
@@ -58,7 +58,7 @@ TEST(RasterLines, ALineOfWidth2OnACentreCoversHalfOfTheRowsBesideIt) {
 }
 
 TEST(RasterLines, ALongBroadLineKeepsItsSoftEdges) {
-  // Width 6 about row 10 reaches from 7 to 13, whose pixels are covered by half. Upright likewise.
+  // Width 6 about row 10 reaches from 7 to 13, whose pixels are half covered. The same for upright.
   SmallPicture lying(60, 21), upright(21, 60);
   lying.Line(-9, 10, 99, 10, 6);
   upright.Line(10, -9, 10, 99, 6);
@@ -99,9 +99,9 @@ TEST(RasterLines, EvenlyWideInEveryDirection) {
 }
 
 TEST(RasterLines, EndsAreRound) {
-  // A pen of width 5 reaches 2.5 beyond the end. The pixel 2 to the right lies wholly within, the
-  // one 3 to the right does not begin before 2.5; the corner 2, 2 lies at 2.83, of which
-  // 2.5 + 0.5 - 2.83 = 0.17 is within: 44 of 256.
+  // A pen of width 5 reaches 2.5 beyond the end. The pixel 2 to the right lies wholly inside; the
+  // one 3 to the right begins only at 2.5. The corner 2, 2 lies at 2.83, and 2.5 + 0.5 - 2.83 =
+  // 0.17 of it is inside: 44 of 256.
   SmallPicture picture(12, 9);
   picture.Line(-20, 4, 4, 4, 5);
   const Bitmap bitmap = Raster().Paint(picture);
@@ -112,8 +112,8 @@ TEST(RasterLines, EndsAreRound) {
 }
 
 TEST(RasterLines, HalvesOfABondMeetInACleanEdge) {
-  // Both halves on one row, red up to x = 4 and green from there. Behind the joint no red is left,
-  // before it no green, and the ground shines through nowhere.
+  // Both halves are on one row, red up to x = 4 and green from there. After the joint there is no
+  // red, before it no green, and the background shows through nowhere.
   SmallPicture picture(9, 5);
   picture.Line(-20, 2, 4, 2, 3, Rgb(255, 0, 0));
   picture.Line(4, 2, 29, 2, 3, Rgb(0, 255, 0));
@@ -126,7 +126,7 @@ TEST(RasterLines, HalvesOfABondMeetInACleanEdge) {
   }
 }
 
-TEST(RasterLines, HalvesOfADoubleBondMeetCleanlyThoughTheOtherLineComesBetween) {
+TEST(RasterLines, HalvesOfADoubleBondMeetCleanlyEvenIfTheOtherLineComesBetween) {
   SmallPicture picture(9, 9);
   picture.Line(-20, 2, 4, 2, 3, Rgb(255, 0, 0));
   picture.Line(-18, 7, 6, 7, 3, Rgb(255, 0, 0));
@@ -156,9 +156,9 @@ TEST(RasterLines, ALaterStrokeCoversAnEarlierOne) {
   EXPECT_EQ(WordAt(Raster().Paint(picture), 1, 1), 0xFF0000FFu);
 }
 
-TEST(RasterLines, ADottedLineIsThreePixelsAndThreePixelsGap) {
-  // Dots run from -0.5 beside nothing: the first begins in the middle of pixel 0, so of the pixels
-  // 0 and 3 half is covered, of 6 and 9 too.
+TEST(RasterLines, ADottedLineHasDotsOfThreePixelsAndGapsOfThree) {
+  // The first dot begins in the middle of pixel 0, with nothing before it. So the pixels 0 and 3
+  // are half covered, and 6 and 9 too.
   SmallPicture picture(10, 1);
   picture.Line(0, 0, 20, 0, 1, kWhite, 2);
 
@@ -194,7 +194,7 @@ TEST(RasterLines, AtScale2ALineIsTwicePixelsWide) {
             "  0   0   0   0   0   0   0   0   0   0\n");
 }
 
-TEST(RasterLines, APenThatScaleMakesFineGoesFaintButNotBelowThreeQuarters) {
+TEST(RasterLines, APenMadeFineByTheScaleFadesButNotBelowThreeQuarters) {
   // A pen of 1 at scale 0.5 would be half a pixel. The surface's row 0.5 is the canvas's row 0.
   SmallPicture picture(8, 2);
   picture.Line(-9, 0.5f, 99, 0.5f, 1);

@@ -14,8 +14,8 @@
 namespace orvane {
 namespace {
 
-// Pictures of a few pixels in white on black, so that a pixel's red is its cover. 128 is a half:
-// 255 * 128 / 256 is 127.5, and goes up.
+// Pictures of a few pixels in white on black, so that a pixel's red is its coverage. 128 is a half:
+// 255 * 128 / 256 is 127.5, and is rounded up.
 
 TEST(RasterTest, AnEmptyPictureIsItsBackColour) {
   SmallPicture picture(3, 2);
@@ -24,7 +24,7 @@ TEST(RasterTest, AnEmptyPictureIsItsBackColour) {
   for (const std::uint32_t word : Raster().Paint(picture).Words) EXPECT_EQ(word, 0xFF010203u);
 }
 
-TEST(RasterTest, ATextStandsBelowAndToTheRightOfItsPlace) {
+TEST(RasterTest, ATextIsPrintedBelowAndToTheRightOfItsPlace) {
   SmallPicture picture(30, 30);
   picture.Print(10, 8, "H");
   const Bitmap bitmap = Raster().Paint(picture);
@@ -39,8 +39,8 @@ TEST(RasterTest, ATextStandsBelowAndToTheRightOfItsPlace) {
       bottom = std::max(bottom, y);
     }
   }
-  // The cell of an H of 11 pixels is 0.722 * 11 = 7.94 wide; its capitals are 0.716 * 11 = 7.9
-  // high and stand on the line 0.905 * 11 = 10 below the top.
+  // The cell of an H of 11 pixels is 0.722 * 11 = 7.94 wide. Capitals are 0.716 * 11 = 7.9 high,
+  // and their base line is 0.905 * 11 = 10 below the top.
   EXPECT_EQ(top, 8 + 10 - 8);
   EXPECT_EQ(bottom, 8 + 10 - 1);
   EXPECT_GE(left, 10);
@@ -48,7 +48,7 @@ TEST(RasterTest, ATextStandsBelowAndToTheRightOfItsPlace) {
 }
 
 TEST(RasterTest, BlanksMoveATextByTheirWidth) {
-  // A blank is 0.278 of 11 pixels wide, so nine of them are 27.5: at twice the size whole pixels.
+  // A blank is 0.278 of 11 pixels wide, so nine are 27.5: whole pixels at twice the size.
   SmallPicture plain(60, 20), moved(60, 20);
   plain.Print(29.5f, 2, "N");
   moved.Print(2, 2, "         N");
@@ -133,7 +133,7 @@ TEST(RasterTest, OnlyTheCanvasIsWritten) {
   }
 }
 
-TEST(RasterTest, WildPlacesAreSkippedOrCutAndNeverTakeLong) {
+TEST(RasterTest, WildCoordinatesAreSkippedOrCutAndNeverTakeLong) {
   const float infinite = std::numeric_limits<float>::infinity();
   const float nan = std::numeric_limits<float>::quiet_NaN();
   const float wild[] = {0,     -0.0f, 1e-30f, 179.5f,   -3e3f,     1e6f,
@@ -156,7 +156,7 @@ TEST(RasterTest, WildPlacesAreSkippedOrCutAndNeverTakeLong) {
   }
 }
 
-TEST(RasterTest, AScaleThatIsNoneGivesThePlainColour) {
+TEST(RasterTest, AnImpossibleScaleGivesThePlainColour) {
   SmallPicture picture(2, 2);
   picture.Line(0, 0, 1, 1, 3);
   std::uint32_t words[4];

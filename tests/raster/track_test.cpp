@@ -44,8 +44,8 @@ TEST(Tracks, AreTheSameWithNarrowAndWideRegisters) {
 }
 
 TEST(Tracks, AreTheSameWhereverTheyLieOnTheCanvas) {
-  // One that keeps clear of the edges is drawn without looking at them. Moved by whole pixels to
-  // the right edge it shows the same pixels as far as they are on the canvas.
+  // A track that keeps clear of the edges is drawn without checking them. Moved by whole pixels to
+  // the right edge, it shows the same pixels as far as they are on the canvas.
   for (const Ends ends : {kRound, kFlatStart, kFlatEnd, kFlat, kDashed}) {
     Track track{.X = 20, .Y = 20.25, .AlongX = 0.8, .AlongY = 0.6, .Length = 15, .Width = 5};
     track.Dash = 3;

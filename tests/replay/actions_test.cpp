@@ -25,7 +25,7 @@ TEST(Force, ReachesControlsOfAHiddenWindow) {
 TEST(Enter, IsTheTwoClicksThatLeadToTheMainWindow) {
   Session session;
   EXPECT_EQ(session.Do("enter"), kEntered);
-  EXPECT_EQ(session.Do("enter"), "");  // both windows are gone, so nothing can be clicked
+  EXPECT_EQ(session.Do("enter"), "");  // both windows are closed, so nothing can be clicked
   EXPECT_EQ(Session().Do("click Orvane_Front.Get_in\nclick Content.Get_in"), kEntered);
 }
 
@@ -54,7 +54,7 @@ TEST(ABar, IsClippedToItsRange) {
   EXPECT_EQ(session.Desk().main.ZoomBar.Value, -100);
 }
 
-// With nothing loaded a change of the zoom beeps, so the beeps count the change events.
+// With nothing loaded, a change of the zoom beeps, so the beeps count the change events.
 TEST(ABar, ChangesOnlyIfItsValueDoes) {
   Session session;
   session.Do("enter");
@@ -118,7 +118,7 @@ TEST(ATick, ComesOnlyWhileTheTimerIsEnabled) {
   Session session;
   session.Do("tick Orvane_Front.Timer1");
   EXPECT_EQ(session.Desk().shell.FrontFrame, 1);
-  session.Do("enter\ntick Orvane_Front.Timer1");  // going on stops the splash's timer
+  session.Do("enter\ntick Orvane_Front.Timer1");  // leaving the splash stops its timer
   EXPECT_EQ(session.Desk().shell.FrontFrame, 1);
   session.Do("force tick Orvane_Front.Timer1");
   EXPECT_EQ(session.Desk().shell.FrontFrame, 2);

@@ -1,4 +1,4 @@
-// Lines that are no action.
+// Lines that are not actions.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -91,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(Dumps, NoAction,
                          ::testing::Values("dump everything", "dump ", "dump  atoms",
                                            "dump atoms bonds", "Dump"));
 
-TEST(ANulByte, IsNoAction) {
+TEST(ANulByte, IsNotAnAction) {
   Session session;
   using namespace std::string_view_literals;
   EXPECT_NE(session.Complaint("click Bt3_Reset\0"sv), "");

@@ -1,4 +1,4 @@
-// What a script is told when it asks for the state.
+// The answers to a script that asks for the state.
 #include "replay/dumps.h"
 
 #include <algorithm>
@@ -111,7 +111,7 @@ TEST(DumpOfControls, HasTheControlsOwnFlags) {
   const Json controls = Asked(session, "dump controls");
   EXPECT_EQ(controls["DWn"],
             (Json{{"Visible", true}, {"Enabled", false}, {"Caption", "&Draw in"}}));
-  // Its menu is hidden and disabled; it is not.
+  // Its menu is hidden and disabled; the entry itself is not.
   EXPECT_EQ(controls["StMsc"],
             (Json{{"Visible", true}, {"Enabled", true}, {"Caption", "&Stop Play"}}));
   EXPECT_EQ(controls["Timer1"], (Json{{"Visible", true}, {"Enabled", false}, {"Caption", ""}}));
@@ -175,7 +175,7 @@ TEST(DumpOfTheSurvey, HasBothListsToTheCountOfPhi) {
             (Json{{"PhiList", {-57, -119.5}}, {"PsiList", {-47, 113}}}));
 }
 
-// A count goes up before the slot is written, so it stands one too high when that fails.
+// A count goes up before the slot is written, so it is one too high if the writing fails.
 TEST(ACountPastTheEndOfItsArray, IsDumpedAsFarAsTheArrayGoes) {
   Session session;
   session.Desk().molecule.BondCount = kLastSlot + 1;

@@ -7,7 +7,7 @@
 namespace orvane {
 namespace {
 
-TEST(Windows, ArePrintedOnlyWhenTheyReallyComeOrGo) {
+TEST(Windows, ArePrintedOnlyWhenTheyReallyAppearOrDisappear) {
   Session session;
   session.Do("click Orvane_Front.Author");
   // The splash stayed behind the author's window, so it need not be shown again.
@@ -34,7 +34,7 @@ TEST(APicture, IsPrintedEachTimeItIsGiven) {
   EXPECT_EQ(session.stream.str(), "picture L_Img\npicture L_Img\npicture R_Img_b\n");
 }
 
-TEST(AStoredImage, IsNoSnapshot) {
+TEST(AStoredImage, IsNotASnapshot) {
   Session session;
   FrontWindow& front = session.Desk().front;
   EXPECT_EQ(session.Do("tick Orvane_Front.Timer1"), "");

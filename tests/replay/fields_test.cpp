@@ -1,4 +1,4 @@
-// Every scalar field that a room's header declares is in the dump, and under the name it has there.
+// Every scalar field that a room's header declares is in the dump, under the name it has there.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -23,7 +23,7 @@ std::vector<std::filesystem::path> StateHeaders() {
   const std::filesystem::path source = std::filesystem::path(ORVANE_SOURCE_DIR) / "src";
   std::vector<std::filesystem::path> headers;
   for (const auto& entry : std::filesystem::directory_iterator(source / "desk")) {
-    // Where the keyboard stands belongs to the reader; no script asks for it.
+    // The place of the keyboard belongs to the screen reader; no script asks for it.
     if (entry.path().filename() == "walked_atom.h") continue;
     if (entry.path().extension() == ".h") headers.push_back(entry.path());
   }
@@ -31,7 +31,7 @@ std::vector<std::filesystem::path> StateHeaders() {
 }
 
 // Names declared on one line, as in "  double MaxX = 0, MaxY = 0;  // a remark". Arrays and the
-// parts of a Point or of AxisCells are no scalar fields of the desk.
+// parts of a Point or of AxisCells are not scalar fields of the desk.
 std::vector<std::string> ScalarsOf(const std::string& line) {
   static const std::regex declaration(
       R"(^  (int|double|float|Int16|Colour|std::string|NameField|AxisCells) ([^;()\[\]]*);.*)");

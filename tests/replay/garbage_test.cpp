@@ -1,4 +1,4 @@
-// Scripts that nobody would write. A line is played or refused; the tool outlives all of them.
+// Scripts that nobody would write. A line is played or refused; the tool survives all of them.
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <random>
@@ -114,7 +114,7 @@ TEST_P(Garbage, OfWordsIsRefusedOrPlayed) {
   Random random(GetParam());
   Session session;
   for (int i = 0; i < 500; ++i) {
-    // The table of controls is long, and nothing of it depends on the words.
+    // The table of controls is long, and none of it depends on the words.
     const std::string line = RandomWords(random);
     if (!line.starts_with("dump")) PlayLine(session.player, line);
     if (session.player.platform->Ended) StartDesk(session.player);

@@ -1,4 +1,4 @@
-// How a replay writes numbers and texts.
+// The form in which a replay writes numbers and texts.
 #include "replay/json_line.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST(NumberText, OfASingleHasNineDigits) {
   EXPECT_EQ(NumberText(180.5F, kSingleDigits), "180.5");
 }
 
-TEST(NumberText, OfWhatIsNoNumberIsNull) {
+TEST(NumberText, OfWhatIsNotANumberIsNull) {
   EXPECT_EQ(NumberText(std::numeric_limits<double>::infinity()), "null");
   EXPECT_EQ(NumberText(std::numeric_limits<double>::quiet_NaN()), "null");
 }
@@ -40,7 +40,7 @@ TEST(TextInQuotes, EscapesWhatJsonWantsEscaped) {
   EXPECT_EQ(TextInQuotes("ÎØÃ"), "\"ÎØÃ\"");
 }
 
-TEST(TextInQuotes, ReplacesBytesThatAreNoUtf8) {
+TEST(TextInQuotes, ReplacesBytesThatAreNotUtf8) {
   EXPECT_EQ(TextInQuotes("\xFF"), "\"\xEF\xBF\xBD\"");  // U+FFFD
 }
 

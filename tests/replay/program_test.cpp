@@ -1,4 +1,4 @@
-// The program itself: its streams, its one word on the command line, and its exit code.
+// The program itself: its streams, its one option on the command line, and its exit code.
 #include <cstdio>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -9,9 +9,9 @@
 namespace orvane {
 namespace {
 
-// Runs `orvane-replay WORDS`, with standard error behind standard output.
+// Runs `orvane-replay WORDS`, with standard error after standard output.
 Played RunProgram(const std::string& words, const std::string& script) {
-  // Of this test's own: others run at the same time.
+  // A file of this test's own, since others run at the same time.
   const std::string test = testing::UnitTest::GetInstance()->current_test_info()->name();
   const std::string file = testing::TempDir() + "orvane-replay-" + test + ".txt";
   std::ofstream(file, std::ios::binary) << script;

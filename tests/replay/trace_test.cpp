@@ -1,4 +1,4 @@
-// The calls on the drawing surface, as they are traced.
+// The form in which calls on the drawing surface are traced.
 #include <gtest/gtest.h>
 
 #include "replay/played.h"
@@ -47,7 +47,7 @@ TEST(Trace, OfAResetHasTheBackgroundPictureOrNone) {
             "surface Picture none\nsurface Picture 4\nsurface BackColor 65535\n");
 }
 
-TEST(Trace, StandsBetweenTheEffectsInTheOrderOfTheCalls) {
+TEST(Trace, IsBetweenTheEffectsInTheOrderOfTheCalls) {
   Traced traced;
   traced.Desk().molecule.MoleculeReady = 1;
   // Reset on an empty store: the back colour, the wipe, then the chain, whose painter wipes again.
@@ -67,7 +67,7 @@ TEST(Trace, OfThePlotHasCirclesOnItsAreasAlone) {
 }
 
 // Both torsions of a helix are below 0, which is the area with index 1. Of its twelve residues the
-// first is passed over, and the last has no neighbour to be measured with.
+// first is skipped, and the last has no next neighbour for a torsion.
 TEST(Trace, OfASurveyHasAMarkForEachResidueOfAHelix) {
   Traced traced;
   traced.Do("enter\nselect Pro_Lst 1");

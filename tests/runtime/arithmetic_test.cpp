@@ -6,7 +6,7 @@
 namespace orvane {
 namespace {
 
-TEST(Divide, FailsOnZeroAlsoInFloats) {
+TEST(Divide, FailsOnZeroInFloatsToo) {
   EXPECT_THROW(Divide(1.0, 0.0), Failure);
   EXPECT_THROW(Divide(1.0, -0.0), Failure);
   EXPECT_THROW(Divide(0.0, 0.0), Failure);
@@ -33,7 +33,7 @@ TEST(RoundToInt16, AnythingElseGoesToTheNearest) {
   EXPECT_EQ(RoundToInt16(-7.2), -7);
 }
 
-TEST(RoundToInt16, IsCheckedBehindTheRounding) {
+TEST(RoundToInt16, IsCheckedAfterTheRounding) {
   EXPECT_EQ(RoundToInt16(32767.4), 32767);
   EXPECT_EQ(RoundToInt16(-32768.5), -32768);  // the even neighbour
   EXPECT_THROW(RoundToInt16(32767.5), Failure);
@@ -43,7 +43,7 @@ TEST(RoundToInt16, IsCheckedBehindTheRounding) {
   EXPECT_THROW(RoundToInt16(std::numeric_limits<double>::infinity()), Failure);
 }
 
-TEST(RoundDown, GoesBelowAlsoUnderZero) {
+TEST(RoundDown, GoesDownBelowZeroToo) {
   EXPECT_EQ(RoundDown(2.9), 2.0);
   EXPECT_EQ(RoundDown(-0.1), -1.0);
   EXPECT_EQ(RoundDown(-3.0), -3.0);

@@ -9,7 +9,7 @@
 namespace orvane {
 namespace {
 
-TEST(LenientNumber, SkipsBlanksAndStopsAtWhatIsNoPartOfANumber) {
+TEST(LenientNumber, SkipsBlanksAndStopsAtWhatIsNotPartOfANumber) {
   EXPECT_EQ(LenientNumber("  11.140"), 11.14);
   EXPECT_EQ(LenientNumber(" -0.5 "), -0.5);
   EXPECT_EQ(LenientNumber("+2.5"), 2.5);
@@ -32,7 +32,7 @@ TEST(StrictInt16, TakesBlanksOneSignAndDigits) {
   EXPECT_EQ(StrictInt16("00012"), 12);
 }
 
-TEST(StrictInt16, RefusesWhatIsNoIntegerThroughout) {
+TEST(StrictInt16, RefusesWhatIsNotWhollyAnInteger) {
   for (const char* text :
        {"",  "    ", "1A",  "A1",  "1 2", "1,5",  "--1", "+-1", "-+1", "++1", "- 1", "-",
         "+", "0x1",  "nan", "inf", "1.5", "12.0", "5.",  ".5",  "1e1", "1e",  "1\t", "1.2.3"}) {
@@ -62,7 +62,7 @@ TEST(RoundedInt16, AHalfGoesToTheEvenNeighbour) {
   EXPECT_EQ(RoundedInt16("-2.5"), -2);
 }
 
-TEST(RoundedInt16, RefusesWhatIsNotANumberThroughout) {
+TEST(RoundedInt16, RefusesWhatIsNotWhollyANumber) {
   for (const char* text : {"", "    ", "1A", "A1", "1 2", "1,5", "--1", "+-1", "0x10", "nan", "inf",
                            "1e", "1.2.3", "1e-400x", "1e-400 1"}) {
     EXPECT_THROW(RoundedInt16(text), Failure) << text;
@@ -90,7 +90,7 @@ TEST(RoundedInt16, WhatIsTooSmallForADoubleIs0AndWhatIsTooLargeFails) {
         "1" + zeros + ".5", "." + zeros + "1e800", std::string("1e99999999999999999999")}) {
     EXPECT_THROW(RoundedInt16(text), Failure) << text;
   }
-  // With an exponent that makes up for its zeros each is a number like any other.
+  // With an exponent that makes up for its zeros, each is an ordinary number.
   EXPECT_EQ(RoundedInt16("." + zeros + "7e401"), 7);
   EXPECT_EQ(RoundedInt16("7" + zeros + "e-400"), 7);
   EXPECT_EQ(RoundedInt16("0e400"), 0);
@@ -133,7 +133,7 @@ TEST(SingleText, JustBelowAPowerOfTenKeepsItsNines) {
   EXPECT_EQ(SingleText(100.0 - 1.0 / 131072), "99.99999");
 }
 
-TEST(TwoDecimals, HasTwoDigitsBeforeThePointAtLeast) {
+TEST(TwoDecimals, HasAtLeastTwoDigitsBeforeThePoint) {
   EXPECT_EQ(TwoDecimals(1.5), "01.50");
   EXPECT_EQ(TwoDecimals(0.0), "00.00");
   EXPECT_EQ(TwoDecimals(12.345678), "12.35");
@@ -155,8 +155,8 @@ TEST(Com2Pnt, MakesEveryCommaAPoint) {
   EXPECT_EQ(Com2Pnt(""), "");
 }
 
-// A decimal comma, as in much of the world, for as long as the test runs: in the streams always, in
-// the C library where such a locale is installed.
+// Sets a decimal comma, as used in much of the world, while the test runs: always in the streams,
+// and in the C library if such a locale is installed.
 class CommaLocale {
  public:
   CommaLocale() {

@@ -25,7 +25,7 @@ TEST(StartUp, ShowsTheSplashAndKeepsTheDeskHidden) {
 
 TEST(StartUp, WipesTheSurfaceAndStaysWithoutAStructure) {
   StartedDesk started;
-  // Any assignment of a picture counts as a structure; the start takes that back.
+  // Any assignment of a picture counts as a structure; the start undoes that.
   EXPECT_EQ(started.desk->molecule.MoleculeReady, 0);
   EXPECT_TRUE(started.desk->main.Picture1.Image()->Strokes.empty());
 }
@@ -81,7 +81,7 @@ TEST(StartUp, ChoosesTheYAxisAndTakesHalfOfTheSurface) {
   EXPECT_EQ(desk.view.SurfOffY, 0);
 }
 
-TEST(StartUp, ShutsTheMenusThatNeedAStructure) {
+TEST(StartUp, DisablesTheMenusThatNeedAStructure) {
   StartedDesk started;
   EXPECT_FALSE(started.desk->main.DWn.Enabled);
   EXPECT_FALSE(started.desk->main.RCDP.Enabled);

@@ -1,4 +1,4 @@
-// The table of events and handlers, walked.
+// Walks the table of events and handlers.
 #include "shell/wiring.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 namespace orvane {
 namespace {
 
-// A row that stands twice would run its handler twice for one action.
+// A row that is there twice would run its handler twice for one action.
 TEST(Wiring, HasEachEventOfAControlOnce) {
   std::set<std::pair<std::string_view, EventKind>> rows;
   for (const Wire& wire : Wires()) {

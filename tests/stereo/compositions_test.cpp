@@ -1,4 +1,4 @@
-// The composed views: what each image holds, and what a composition leaves as it was.
+// The composed views: what each image holds, and what a composition does not change.
 
 #include "stereo/compositions.h"
 
@@ -14,8 +14,8 @@
 namespace orvane {
 namespace {
 
-// Two bonded carbons and an oxygen, none of their differences zero: box x 0 to 2, y 0 to 2, z 0
-// to 1.
+// Two bonded carbons and an oxygen. None of their differences is zero; the box is x 0 to 2, y 0 to
+// 2, z 0 to 1.
 std::string SmallStructure() {
   return Record("C1", 0.0, 0.0, 0.0) + Record("C2", 1.0, 1.0, 0.5) + Record("O3", 2.0, 2.0, 1.0);
 }
@@ -43,13 +43,13 @@ TEST_F(Compositions, TheLeftImageIsTheUnturnedView) {
 TEST_F(Compositions, TheRightImageIsTurnedByNineDegreesAboutTheVerticalAxis) {
   ComposeStereoPair(desk);
 
-  // The first stroke of both images begins at atom 2 of the first bond, (2, 1): its place from the
-  // pivot (1, 1, 0.5) is (0, 0, 0), so the second bond is looked at, from atom 3 to atom 2. Atom 3
-  // lies at (1, 1, 0.5) from the pivot. About y: x' = cos 9 * 1 +- sin 9 * 0.5, the sign being that
-  // of PointA.y - PointB.y, atom 3 minus atom 2 after the load: 1 > 0, so plus.
+  // The first stroke of both images begins at atom 2 of the first bond, (2, 1). Its place from the
+  // pivot (1, 1, 0.5) is (0, 0, 0), so the test takes the second bond, from atom 3 to atom 2. Atom
+  // 3 lies at (1, 1, 0.5) from the pivot. About y: x' = cos 9 * 1 +- sin 9 * 0.5, with the sign of
+  // PointA.y - PointB.y, which after the load is atom 3 minus atom 2: 1 > 0, so plus.
   const double angle = 9.0 * std::numbers::pi / 180.0;
   const double turned_x = std::cos(angle) * 1.0 + std::sin(angle) * 0.5;
-  // The largest extent is 2, the half surface 180: 90 pixels an Angstrom, the pivot at 180.
+  // The largest extent is 2 and half the surface 180: 90 pixels an Angstrom, with the pivot at 180.
   const auto& right = StrokesOf(desk.main.R_Img);
   ASSERT_EQ(right.size(), 4U);  // two bonds of two halves each
   EXPECT_NEAR(right[2].X1, 180.0 + 90.0 * turned_x, 1e-3);
@@ -175,8 +175,8 @@ TEST_P(EveryComposition, EndsAnyPickCycle) {
 
 TEST_P(EveryComposition, GivesTheCoordinatesBackUpToRounding) {
   for (int run = 0; run < 10'000; ++run) GetParam()(desk);
-  // Two turns a run, each good to a few units in the last place of numbers near 1: 1e-16 times
-  // 20,000 steps could sum to 1e-11 if all erred to one side.
+  // There are two turns in a run, each exact to a few units in the last place of numbers near 1. If
+  // all erred to one side, 1e-16 times 20,000 steps could add up to 1e-11.
   double drift = 0;
   for (int i = 1; i <= atoms.AtomCount; ++i) {
     drift = std::max({drift, std::fabs(atoms.CurX[i] - atoms.AtomX[i]),

@@ -49,7 +49,7 @@ struct ATail : testing::TestWithParam<std::size_t> {};
 
 TEST_P(ATail, HasJustTheTestsOfItsCommand) {
   const TailRow& row = Rows()[GetParam()];
-  // One view on at a time; red-green is known by what it leaves, a green pen.
+  // One view is on at a time. Red-green is known by the green pen that it leaves.
   for (int view = 0; view < 3; ++view) {
     DeskAtWork work;
     Load(work.desk, Record("C1", 0, 0, 0) + Record("C2", 1, 1, 0.5) + Record("O3", 2, 2, 1));
@@ -80,9 +80,9 @@ TEST(RefreshTails, ComeInTheOrderStereoEnantiomersRedGreen) {
 
   RefreshTail(desk);
 
-  // The stereo pair was painted first, before any red-green picture had made the pen green; the
-  // enantiomers came after it and so are what the images hold: the right one is the half turn,
-  // whose red-green picture has twelve half bonds.
+  // The stereo pair was painted first, before any red-green picture had made the pen green. The
+  // enantiomers came after it, so the images hold them: the right one is the half turn, whose
+  // red-green picture has twelve half bonds.
   EXPECT_EQ(desk.main.R_Img.Shown()->Strokes.size(), 12U);
   // The surface ends with the red-green picture over the plain view of the enantiomers.
   EXPECT_EQ(desk.main.Picture1.Image()->Strokes.size(), 12U);

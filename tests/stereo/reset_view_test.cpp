@@ -48,7 +48,7 @@ TEST_F(ResetViewTest, WithTheTurnBarElsewhereTurnsByOneStep) {
   EXPECT_EQ(desk.main.VScroll1.Value, 1);
   EXPECT_NEAR(desk.molecule.CurY[2], before.Y, 1e-12);
   EXPECT_GT(std::abs(desk.molecule.CurX[2] - before.X), 0.1);
-  // Atom 2 stands root 2 from the axis; a step of 10 degrees moves it by a chord of 2 r sin 5.
+  // Atom 2 is root 2 from the axis; a step of 10 degrees moves it by a chord of 2 r sin 5.
   EXPECT_NEAR(std::hypot(desk.molecule.CurX[2] - before.X, desk.molecule.CurZ[2] - before.Z),
               2 * std::sqrt(2.0) * std::sin(5 * kPi / 180), 1e-12);
 }

@@ -84,7 +84,7 @@ TEST(Bases, HaveTheShapesOfTheStandardBases) {
   }
 }
 
-// O6 and N7 of guanine come near the window of hydrogen bonds, which ends at 3.1.
+// O6 and N7 of guanine are close to the window of hydrogen bonds, which ends at 3.1.
 TEST(Bases, GuanineBindsNothingInItself) {
   Structure guanine(kNucleotides, "dG");
   EXPECT_EQ(guanine.Store().HBondCount, 0);

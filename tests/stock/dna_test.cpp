@@ -22,9 +22,9 @@ constexpr std::pair<int, int> kPairs[] = {{2, 20}, {3, 19}, {4, 18}};
 
 std::string LabelOf(int number, const char* name) { return std::to_string(number) + " " + name; }
 
-// Turn and rise from level to level of one strand. What bends the path of an atom through the three
-// levels points at the axis; O3* of the first and of the second strand, which stand about a right
-// angle apart, give its direction.
+// Turn and rise from level to level of one strand. The bend in the path of an atom through the
+// three levels points at the axis. O3* of the first and of the second strand, which are about a
+// right angle apart, give its direction.
 struct Screw {
   double Turn = 0;  // degrees, positive for a right-handed helix
   double Rise = 0;  // Angstrom
@@ -132,7 +132,7 @@ std::map<std::string, double> EntriesOf(const char* row) {
 }
 
 TEST(Dna, BasePairsAreHeldByTwoAndThreeHydrogenBonds) {
-  // N1 and N3 of one ring always count as a pair, since only names and distance are asked for.
+  // N1 and N3 of one ring always count as a pair, since only names and distance matter.
   const std::map<std::string, double> expected = {
       {"2 N6-20 O4", 2.94},  {"2 N1-20 N3", 2.92}, {"3 O6-19 N4", 2.89},  {"3 N1-19 N3", 2.93},
       {"3 N2-19 O2", 2.82},  {"4 O4-18 N6", 2.94}, {"4 N3-18 N1", 2.92},  {"2 N1-2 N3", 2.41},
@@ -147,12 +147,12 @@ TEST(Dna, BasePairsAreHeldByTwoAndThreeHydrogenBonds) {
   }
 }
 
-TEST(Dna, TheNearestPairThatIsNoneStaysOutside) {
+TEST(Dna, TheNearestFalsePairStaysOutside) {
   Structure dna(kStrands, "DNA3");
   EXPECT_NEAR(dna.Length(dna.Atom("3 N2"), dna.Atom("4 O2")), 3.34, 0.006);  // the limit is 3.3
 }
 
-TEST(Dna, ASingleStrandHasNoPairButThoseInItsRings) {
+TEST(Dna, ASingleStrandHasNoPairsExceptThoseInItsRings) {
   const auto first = EntriesOf("S1DNA");
   EXPECT_EQ(first.size(), 3u);
   for (const char* const ring : {"2 N1-2 N3", "3 N1-3 N3", "4 N1-4 N3"}) {
@@ -178,14 +178,14 @@ TEST(Dna, NucleotidesHaveTheirNumbersOfAtoms) {
   EXPECT_EQ(atoms, (std::map<int, int>{{2, 21}, {3, 22}, {4, 20}, {18, 21}, {19, 19}, {20, 20}}));
 }
 
-TEST(Dna, PairedSugarsStandOneDistanceApart) {
+TEST(Dna, PairedSugarsAreAllTheSameDistanceApart) {
   Structure dna(kStrands, "DNA3");
   for (const auto& [a, b] : kPairs) {
     EXPECT_NEAR(dna.Length(dna.Atom(LabelOf(a, "C1*")), dna.Atom(LabelOf(b, "C1*"))), 10.73, 0.01);
   }
 }
 
-TEST(Dna, StandsUprightWithTheFirstStrandsBeginningAtTheTop) {
+TEST(Dna, IsUprightWithTheFirstStrandsBeginningAtTheTop) {
   const Structure dna(kStrands, "DNA3");
   const auto y = [&](int number) { return dna.At(dna.Atom(LabelOf(number, "C1*"))).Y; };
   // y grows downward: level by level, the first strand down and the second one up.

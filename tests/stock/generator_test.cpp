@@ -13,8 +13,8 @@
 namespace orvane {
 namespace {
 
-// Records are cut behind the third decimal or, below 10, behind the fourth, and what is expected is
-// rounded: less than one step of the third decimal apart.
+// Records are cut off after the third decimal or, below 10, after the fourth, and the expected
+// values are rounded. So they are less than one step of the third decimal apart.
 constexpr double kOneStep = 0.001 + 1e-9;
 
 void SelectResidue(DeskAtWork& work, std::string_view key) {
@@ -65,7 +65,7 @@ TEST_P(GeneratedResidue, HasAllItsAtomsAndEndsWhereItsTableSays) {
 INSTANTIATE_TEST_SUITE_P(Residues, GeneratedResidue, testing::ValuesIn(kLastAtoms),
                          [](const auto& residue) { return std::string(residue.param.Residue); });
 
-TEST(Generator, TheFirstAtomsStandOnTheFrame) {
+TEST(Generator, TheFirstAtomsLieOnTheFrame) {
   DeskAtWork work;
   SelectResidue(work, "ALA");
 
@@ -77,7 +77,7 @@ TEST(Generator, TheFirstAtomsStandOnTheFrame) {
   ExpectAtom(molecule, 10, "CB", {11.292, 5.937, 2.978});
 }
 
-TEST(Generator, CbStandsWhereTheGeneralAminoAcidHasItsSideChain) {
+TEST(Generator, CbIsWhereTheGeneralAminoAcidHasItsSideChain) {
   DeskAtWork work;
   SelectResidue(work, "Gen");
   ASSERT_EQ(work.desk.molecule.AtomName[5], "  R  ");
@@ -88,7 +88,7 @@ TEST(Generator, CbStandsWhereTheGeneralAminoAcidHasItsSideChain) {
   ExpectAtom(work.desk.molecule, 10, "CB", side_chain);
 }
 
-TEST(Generator, EveryAtomHangsOnItsReferenceAtTheTablesLength) {
+TEST(Generator, EveryAtomIsAttachedToItsReferenceAtTheTablesLength) {
   DeskAtWork work;
   for (const std::string_view key : catalogue::kGeneratedKeys) {
     SelectResidue(work, key);
@@ -163,7 +163,7 @@ TEST(Generator, ARecordHasItsFieldsInTheirColumns) {
   SelectResidue(work, "GLY");
 
   // H2, the sixth atom: (11.944, 7.700, 1.043) to three decimals. x has 6 characters, y 6 and z 5,
-  // so that y, which is below 10, keeps a fourth decimal. Its digits are looked at up to the third.
+  // so y, which is below 10, keeps a fourth decimal. The test compares its digits up to the third.
   const std::string_view record = Mid(work.desk.molecule.MolText, 1 + 5 * kRecordWidth, 55);
   EXPECT_EQ(record.substr(0, 34), "ATOM     13  H2  GLY     1      11");
   EXPECT_EQ(record.substr(34, 1), ".");
@@ -176,8 +176,8 @@ TEST(Generator, CoordinatesAreCutAndNotRounded) {
   DeskAtWork work;
   work.desk.molecule.MolText = stock::TextFrame;
   LoadMolecule(work.desk);
-  // The references on the axes: 1 above the angle point on z, the torsion point on x. At 90 degrees
-  // the new atom stands at x = origin + length, y = origin, z = origin + 1.
+  // The references are on the axes: 1 above the angle point on z, the torsion point on x. At 90
+  // degrees the new atom is at x = origin + length, y = origin, z = origin + 1.
   work.desk.generator.RefAngle = {10, 20, 30};
   work.desk.generator.RefBonded = {10, 20, 31};
   work.desk.generator.RefTorsion = {11, 20, 30};
@@ -201,7 +201,7 @@ TEST(Generator, PlaceAtomLeavesTheReferencesInItsOwnFrame) {
   g.RefTorsion = {3, 1, 1};
   PlaceAtom(work.desk, 0, 90, 1, "XX ");
 
-  // Angle point at the origin, bonded point on the z axis at its distance, 5.
+  // The angle point is at the origin, the bonded point on the z axis at its distance, 5.
   EXPECT_EQ(g.RefAngle.X, 0);
   EXPECT_NEAR(g.RefBonded.X, 0, 1e-12);
   EXPECT_NEAR(g.RefBonded.Y, 0, 1e-12);

@@ -27,7 +27,7 @@ std::string FileText(const std::string& path) {
   return text.str();
 }
 
-// What a run that is refused says; empty when it is not refused.
+// The message of a run that is refused; empty if it is not refused.
 template <class Run>
 std::string RefusalOf(Run run) {
   try {
@@ -38,7 +38,7 @@ std::string RefusalOf(Run run) {
   return "";
 }
 
-// A copy of the tables in which one word is another.
+// A copy of the tables with one word replaced by another.
 class ChangedTables {
  public:
   ChangedTables(const std::string& table, const std::string& from, const std::string& to)
@@ -114,7 +114,7 @@ TEST(StockMaker, ARecordHasItsFieldsInTheirColumns) {
             "ATOM    123  O4*   T B  20      -0.500-999.9991000.000 ");
 }
 
-TEST(StockMaker, AZeroBearsNoMinus) {
+TEST(StockMaker, AZeroHasNoMinus) {
   const std::string record = WriteRecord({1, "N", "GLY", ' ', 1, {-0.0, -0.0004, 0.0004}});
   EXPECT_EQ(Cut(record, kXField), "   0.000");
   EXPECT_EQ(Cut(record, kYField), "   0.000");
@@ -154,7 +154,7 @@ TEST(StockMaker, AnOverflowInATableEndsTheWholeRun) {
             "record 1, atom N of GLY 1: x \"99999.000\" is wider than its 8 columns");
 }
 
-TEST(StockMaker, ANumberThatIsNoneIsRefusedWithItsRow) {
+TEST(StockMaker, AFieldThatIsNotANumberIsRefusedWithItsRow) {
   const ChangedTables tables("sheet_unit.tsv", "0.3620", "0,3620");
   EXPECT_THAT(tables.Refusal(), testing::MatchesRegex("sheet_unit.tsv, line [0-9]+: \"0,3620\" in "
                                                       "column x is no number"));
@@ -165,7 +165,7 @@ TEST(StockMaker, ARowOfAnotherWidthIsRefused) {
   EXPECT_THAT(tables.Refusal(), HasSubstr("7 fields for 8 columns"));
 }
 
-TEST(StockMaker, AnAtomThatItsUnitHasNotIsRefused) {
+TEST(StockMaker, AnAtomThatItsUnitLacksIsRefused) {
   const ChangedTables chain("texts.tsv", "N CA C O R", "N CA C OXT R");
   EXPECT_THAT(chain.Refusal(), HasSubstr("the unit has no atom OXT"));
   const ChangedTables base("texts.tsv", "N9 C4", "N99 C4");

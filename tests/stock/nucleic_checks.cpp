@@ -11,8 +11,8 @@ using stock_check::IsPurine;
 
 namespace {
 
-// One unit serves every residue, so it stands a little off each mean; far within one deviation of
-// the crystals, 0.010 to 0.020 and 1 to 2 degrees.
+// One unit serves every residue, so it is a little off each mean, but well within one standard
+// deviation of the crystals, 0.010 to 0.020 and 1 to 2 degrees.
 constexpr double kLengthOffMean = 0.004;
 constexpr double kAngleOffMean = 1.0;
 
@@ -48,7 +48,7 @@ void ExpectDeoxyribose(Structure& structure, int residue, char base) {
   // Purines hold their sugar a little closer (1.460) than pyrimidines (1.470); the mean is of both.
   EXPECT_NEAR(structure.Length(atom("C1*"), atom("N")), 1.474, 0.020) << base;
   EXPECT_NEAR(structure.Length(atom("C1*"), atom("N")), IsPurine(base) ? 1.460 : 1.470, 0.002);
-  // The base stands away from the sugar (anti), the ring is C2'-endo.
+  // The base points away from the sugar (anti), the ring is C2'-endo.
   EXPECT_NEAR(
       structure.Torsion(atom("O4*"), atom("C1*"), atom("N"), atom(IsPurine(base) ? "C4" : "C2")),
       -116, 2.0);

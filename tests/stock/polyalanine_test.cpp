@@ -1,5 +1,5 @@
-// The two chains that have their hydrogens: ALFB and BETB, and the order of their bond lists, on
-// which the plane painter counts.
+// The two chains that have their hydrogens, ALFB and BETB, and the order of their bond lists, on
+// which the plane painter relies.
 
 #include <cmath>
 #include <gmock/gmock.h>
@@ -18,7 +18,7 @@ struct Chain {
 };
 constexpr Chain kChains[] = {{"Alfb", 6}, {"Betb", 5}};
 
-TEST(Polyalanine, HydrogensStandAtTheirLengths) {
+TEST(Polyalanine, HydrogensAreAtTheirLengths) {
   for (const Chain& chain : kChains) {
     Structure structure(kProteins, chain.Row);
     for (int number = 1; number <= chain.Residues; ++number) {
@@ -57,7 +57,8 @@ TEST(Polyalanine, TheAmideHydrogenLiesInThePeptidePlane) {
   }
 }
 
-// Drawn in to C, so that the list of bonds has one entry more; still apart from everything else.
+// H4 is drawn in towards C, so that the list of bonds has one more entry. It is still apart from
+// everything else.
 TEST(Polyalanine, H4IsDrawnInAndTouchesNothingElse) {
   for (const Chain& chain : kChains) {
     Structure structure(kProteins, chain.Row);
@@ -81,7 +82,7 @@ TEST(Polyalanine, H4IsDrawnInAndTouchesNothingElse) {
 }
 
 // One residue's entries in the order of the list; ' marks the next residue. The last pair is the
-// peptide bond, which opens the next residue's.
+// peptide bond, which begins the entries of the next residue.
 constexpr const char* kEntries[] = {"CA-N",  "C-CA",  "O-C",   "CB-CA", "H1-N",  "H4-CA", "H4-C",
                                     "H5-CB", "H6-CB", "H6-H5", "H7-CB", "H7-H5", "H7-H6", "N'-C"};
 
@@ -103,10 +104,10 @@ TEST(Polyalanine, FourteenEntriesLeadFromOneResidueToTheNext) {
 }
 
 TEST(Polyalanine, TheListHasNothingButThoseEntries) {
-  // Six residues of fourteen, without the peptide bond behind the last one.
+  // Six residues of fourteen, without the peptide bond after the last one.
   EXPECT_EQ(Structure(kProteins, "Alfb").Bonds().size(), 6u * 14 - 1);
-  // 69 of five residues. The copy adds its own 13, each of them once more from copy to residue and
-  // from residue to copy, and the bond to residue 4.
+  // Five residues have 69. The copy adds its own 13, each of them once more from copy to residue
+  // and from residue to copy, and the bond to residue 4.
   EXPECT_EQ(Structure(kProteins, "Betb").Bonds().size(), 69u + 13 + 26 + 1);
 }
 
@@ -147,8 +148,8 @@ TEST(Polyalanine, EveryPeptideGroupOfTheStrandShowsItsPlane) {
   for (int k = 1; k <= 4; ++k) expected.merge(GroupLines(k));
   expected.insert({"5 O-5 CA", "1 H1-1 CA"});
   EXPECT_EQ(expected.size(), 22u);
-  // Three lines end at the copy of the last residue and lie on lines of the residue under it; the
-  // third of them is drawn the other way round.
+  // Three lines end at the copy of the last residue and lie on lines of the residue under it. The
+  // third is drawn the other way round.
   expected.insert("5 CA-5 H1");
   EXPECT_EQ(std::set<std::string>(lines.begin(), lines.end()), expected);
 }

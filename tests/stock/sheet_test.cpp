@@ -29,7 +29,8 @@ TEST(ParallelSheet, HasThreeFlatStrands) { ExpectStrands("PBS", kParallel); }
 
 TEST(AntiparallelSheet, HasThreeFlatStrands) { ExpectStrands("APBS", kAntiparallel); }
 
-// A residue gives its hydrogen to one residue of the neighbour and takes one from the next but one.
+// A residue gives its hydrogen to one residue of the next strand and takes one from the next but
+// one.
 TEST(ParallelSheet, IsHeldByTwelveHydrogenBonds) {
   EXPECT_THAT(HydrogenBondNames(Structure(kProteins, "PBS")),
               UnorderedElementsAre("71 N-47 O", "49 N-71 O", "73 N-49 O", "51 N-73 O", "75 N-51 O",
@@ -59,8 +60,8 @@ TEST(Sheets, HydrogenBondsAreOfOneLength) {
   }
 }
 
-// From strand to strand, alpha carbon to the one at its side.
-TEST(ParallelSheet, StrandsStandNearlyFiveAngstromApart) {
+// From strand to strand: from an alpha carbon to the one beside it.
+TEST(ParallelSheet, StrandsAreNearlyFiveAngstromApart) {
   Structure sheet(kProteins, "PBS");
   for (int step = 0; step < 6; ++step) {
     const int middle = sheet.Atom(std::to_string(47 + step) + " CA");
@@ -72,7 +73,7 @@ TEST(ParallelSheet, StrandsStandNearlyFiveAngstromApart) {
   }
 }
 
-TEST(AntiparallelSheet, StrandsStandNearlyFiveAngstromApart) {
+TEST(AntiparallelSheet, StrandsAreNearlyFiveAngstromApart) {
   Structure sheet(kProteins, "APBS");
   for (int step = 0; step < 7; ++step) {
     const int middle = sheet.Atom(std::to_string(139 + step) + " CA");

@@ -1,4 +1,4 @@
-// All rows of the four lists, measured: what is built, and what the page of the bends says of the
+// Measures all rows of the four lists: what is built, and what the page of the bends says about the
 // rest.
 #include <gtest/gtest.h>
 
@@ -33,7 +33,7 @@ TEST(StockCheck, FindsNothingWrongInAnyRow) {
   }
 }
 
-// What the check is for: it sees an atom that is off.
+// The purpose of the check: it sees an atom that is out of place.
 TEST(StockCheck, SeesEachHeavyAtomThatIsMovedInABuiltRow) {
   for (const StockRow& row : Rows()) {
     if (row.IsAminoAcid() || row.Key == "PEP") continue;
@@ -76,7 +76,7 @@ TEST(StockCheck, SeesABondThatIsMissingAndOneTooMany) {
   }
 }
 
-TEST(StockCheck, SeesAHydrogenBondThatIsNoneByItsEnergy) {
+TEST(StockCheck, SeesAHydrogenBondThatItsEnergyRulesOut) {
   for (const char* key : {"Alfa", "PBS", "APBS", "Beta"}) {
     StockRow more = RowOf(key);
     const int n = more.Find(more.Atoms.back().Residue, "N");
@@ -110,8 +110,8 @@ TEST(TheBends, ChangeWithEachAtomThatIsMoved) {
   }
 }
 
-// Each length, each angle and each group of the amino acids has a published value: what the page
-// does not list has been looked at.
+// Each length, each angle and each group of the amino acids has a published value, so whatever the
+// page does not list has been checked.
 TEST(TheBends, LeaveNoBondAndNoAngleOut) {
   for (const StockRow& row : Rows()) {
     if (!row.IsAminoAcid() || row.Key == "Gen") continue;
@@ -135,11 +135,11 @@ TEST(TheBends, LeaveNoBondAndNoAngleOut) {
   }
 }
 
-TEST(TheBends, GiveNothingBentToBeMeasuredInstead) {
+TEST(TheBends, SuggestNothingBentToBeMeasuredInstead) {
   EXPECT_EQ(BendsPage(Rows()).find("BENT"), std::string::npos);
 }
 
-TEST(TheBends, HoldTheRingOfHistidineAgainstTheFormThatItIsNearer) {
+TEST(TheBends, CompareTheRingOfHistidineWithTheFormThatItIsNearer) {
   EXPECT_LT(RingOff(RowOf("HIS"), "HIS"), RingOff(RowOf("HIS"), "HIE"));
 }
 

@@ -10,7 +10,8 @@ constexpr PeptideGeometry kStrand = {.NCAC = 115.0, .CACN = 115.5, .CACO = 123.0
 void ExpectStrand(Structure& structure, int residues, const char* side) {
   ExpectPeptide(structure, 1, residues, side, kStrand);
   ExpectTorsions(structure, 1, residues, -119, 113, kTorsionSlack);
-  // Nearly two residues a turn: from one alpha carbon to the second next lies twice the rise.
+  // There are nearly two residues to a turn, so the next alpha carbon but one is twice the rise
+  // away.
   for (int number = 1; number + 2 <= residues; ++number) {
     const double rise = structure.Length(structure.Atom(std::to_string(number) + " CA"),
                                          structure.Atom(std::to_string(number + 2) + " CA")) /

@@ -46,7 +46,7 @@ TEST(Phosphate, HasTwoBareOxygensAndTwoWithHydrogen) {
   ExpectArms(phosphate, kArms);
 }
 
-// The list ends in the hydroxyl hydrogen of O4, a second H4.
+// The list ends with the hydroxyl hydrogen of O4, a second H4.
 constexpr const char* kRiboseBonds =
     "C4-O1 C1-O1 C1-C2 C1-H1A C1-H1B C2-C3 C2-O2 C2-H2A H2B-O2 C3-C4 C3-O3 C3-H3A H3B-O3 C4-C5 "
     "C4-H4 C5-O4 C5-H5A C5-H5B H4-O4";
@@ -90,7 +90,7 @@ TEST(Ribose, HasTheLengthsAnglesAndTorsionsOfC2Endo) {
   EXPECT_NEAR(ribose.Torsion(ribose.Atom("1 O2"), ribose.Atom("1 C2"), ribose.Atom("1 C3"),
                              ribose.Atom("1 O3")),
               -40, 0.5);  // published to the degree
-  // The closing of the ring takes these two a little off their means, 105.8 and 101.5.
+  // To close the ring, these two are a little off their means, 105.8 and 101.5.
   EXPECT_NEAR(ribose.Angle(ribose.Atom("1 O1"), ribose.Atom("1 C1"), ribose.Atom("1 C2")), 105.8,
               0.5);
   EXPECT_NEAR(ribose.Angle(ribose.Atom("1 C1"), ribose.Atom("1 C2"), ribose.Atom("1 C3")), 101.5,
@@ -113,8 +113,8 @@ TEST(Sugars, EveryCarbonHasTheHandOfTheDSeries) {
   }
 }
 
-// The face where a base would stand holds C5, the other one the oxygens.
-TEST(Sugars, H1BStandsOnTheFaceOfTheBase) {
+// C5 is on the face where a base would be, the oxygens are on the other.
+TEST(Sugars, H1BIsOnTheFaceOfTheBase) {
   const Structure ribose(kNucleotides, "RIB");
   const auto at = [&](const char* name) {
     return ribose.At(ribose.Atom(std::string("1 ") + name));

@@ -10,7 +10,7 @@
 namespace orvane {
 namespace {
 
-// Residues in a row of one text, and the atoms of each.
+// Successive residues of one text, and the atoms of each.
 struct Stretch {
   const char* Residues;
   int First;  // number of the first residue
@@ -27,11 +27,11 @@ struct Text {
   const char* Row;
   int Records;
   int Bonds;     // entries of the bond list
-  int Contacts;  // those of them that are no chemical bond
+  int Contacts;  // those of them that are not chemical bonds
   int HydrogenBonds;
   std::vector<Stretch> Stretches;
   bool EndsInBlank = false;
-  bool Centred = true;  // false where the coordinates are bound to another text's, or fixed
+  bool Centred = true;  // false if the coordinates depend on another text's, or are fixed
 };
 
 std::string Sugar(const char* base) {
@@ -160,7 +160,7 @@ std::string RightAligned(const std::string& text, std::size_t width) {
   return std::string(width - text.size(), ' ') + text;
 }
 
-TEST(StockTexts, AtomsAndResiduesStandInTheirOrderAndTheirColumns) {
+TEST(StockTexts, AtomsAndResiduesAreInTheirOrderAndTheirColumns) {
   for (const Text& text : Texts()) {
     Structure structure(text.List, text.Row);
     const std::string& records = structure.Store().MolText;
@@ -211,7 +211,7 @@ TEST(StockTexts, EveryAtomIsLoadedAndTheListsHaveTheirLengths) {
   }
 }
 
-// Bonds end at 1.85: nothing may come near that limit from above, and a coincident pair is none.
+// Bonds end at 1.85. Nothing may come near that limit from above; a coincident pair is not a bond.
 TEST(StockTexts, NoPairIsNearlyABond) {
   for (const Text& text : Texts()) {
     Structure structure(text.List, text.Row);
@@ -227,7 +227,7 @@ TEST(StockTexts, NoPairIsNearlyABond) {
   }
 }
 
-// The sense of a turn is taken from the last two atoms: an equal coordinate would flatten it.
+// The last two atoms give the sense of a turn, and an equal coordinate would flatten it.
 TEST(StockTexts, TheLastTwoAtomsDifferInEveryDirection) {
   for (const Text& text : Texts()) {
     Structure structure(text.List, text.Row);
@@ -279,8 +279,8 @@ TEST(StockTexts, SerialNumbersRunFromOneWhereNothingIsLeftOut) {
   }
 }
 
-// Each residue of the doubled strand counts thirteen, of which ten are there; the copy repeats
-// them.
+// Each residue of the doubled strand counts thirteen atoms, of which ten are there; the copy
+// repeats them.
 TEST(StockTexts, SerialNumbersOfTheDoubledStrandLeaveGaps) {
   std::vector<int> expected;
   for (const int residue : {1, 2, 3, 4, 5, 5}) {

@@ -1,4 +1,5 @@
-// The trace and the torsion survey walk the lists by fixed steps: what they find in the stock.
+// The trace and the torsion survey walk the lists by fixed steps. This is what they find in the
+// stock.
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -27,7 +28,7 @@ const std::vector<Walk>& Walks() {
 }
 
 TEST(Trace, JoinsEveryNeighbourAndNoTwoRuns) {
-  const std::size_t segments[] = {11, 5, 17, 18};  // residues less one, run by run
+  const std::size_t segments[] = {11, 5, 17, 18};  // one less than the residues, run by run
   std::size_t which = 0;
   for (const Walk& walk : Walks()) {
     Structure structure(kProteins, walk.Row);
@@ -85,7 +86,7 @@ TEST(Survey, ShowsTheStrandAtItsPlace) {
   EXPECT_NEAR(rows[4].Phi, -119, 0.2);
 }
 
-// At the ends of runs the steps meet atoms of another strand: there only the signs hold.
+// At the ends of runs the steps meet atoms of another strand, so only the signs hold there.
 TEST(Survey, ShowsTheSheetsAtTheirPlaceInsideTheRuns) {
   struct Case {
     const char* Row;

@@ -11,7 +11,7 @@ namespace {
 
 const double kPi = std::acos(-1.0);
 
-// Box centre and pivot 1, 1, 1; extent 2, so FitScale is 0.5. The atoms lie too far apart for
+// Box centre and pivot 1, 1, 1; extent 2, so FitScale is 0.5. The atoms are too far apart for
 // bonds.
 std::string TwoCorners() { return Record("N", 0, 0, 0) + Record("O", 2, 2, 2); }
 
@@ -30,7 +30,7 @@ TEST_F(TransformTest, ATurnAboutYGoesFromZTowardsX) {
   desk.view.TurnAngle = 90;
   RotateAll(desk);
 
-  // Atom 2 stands at (1, 1, 1) from the pivot; a right-handed quarter turn about +y sends x to -z
+  // Atom 2 is at (1, 1, 1) from the pivot; a right-handed quarter turn about +y sends x to -z
   // and z to x.
   EXPECT_NEAR(desk.molecule.CurX[2], 2, 1e-12);
   EXPECT_NEAR(desk.molecule.CurY[2], 2, 1e-12);

@@ -11,7 +11,7 @@ struct Published {
 };
 
 // From the test data of G. Sharma, W. Wu, E. N. Dalal, Color Research & Application 30 (2005): each
-// goes another way through the formula.
+// takes a different path through the formula.
 const Published kPublished[] = {
     {{50.0000, 2.6772, -79.7751}, {50.0000, 0.0000, -82.7485}, 2.0425},    // blue: the turn
     {{50.0000, -1.3802, -84.2814}, {50.0000, 0.0000, -82.7485}, 1.0000},   // the same
@@ -31,7 +31,7 @@ TEST(TheDifference, IsThatOfThePublishedPairsInBothOrders) {
   }
 }
 
-TEST(TheDifference, OfAColourFromItselfIsNone) {
+TEST(TheDifference, OfAColourFromItselfIsZero) {
   EXPECT_DOUBLE_EQ(SeenDifference(Eye::Deutan, Rgb(60, 60, 240), Rgb(60, 60, 240)), 0);
 }
 

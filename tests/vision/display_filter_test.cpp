@@ -16,7 +16,7 @@ std::uint32_t Word(Colour colour) {
          static_cast<std::uint32_t>(Green(colour)) << 8 | static_cast<std::uint32_t>(Blue(colour));
 }
 
-// `share` of 255 of a colour over a ground, as an edge is mixed.
+// `share` of 255 of a colour over a background, mixed as at an edge.
 Colour Mixed(Colour over, Colour ground, int share) {
   const auto part = [&](int a, int b) { return (a * share + b * (255 - share) + 127) / 255; };
   return Rgb(part(Red(over), Red(ground)), part(Green(over), Green(ground)),
@@ -41,7 +41,8 @@ TEST(TheDisplayFilter, LeavesNoPairOfElementsBelowTheLeastDifference) {
   }
 }
 
-// The seven are still told apart by who sees all colours, a teacher beside the student.
+// Someone who sees all colours, such as a teacher beside the student, can still tell the seven
+// apart.
 TEST(TheDisplayFilter, KeepsTheElementsApartForEveryOtherEyeToo) {
   for (const Eye eye : kEyes) {
     const DisplayFilter filter(eye);
@@ -66,7 +67,7 @@ TEST(TheDisplayFilter, ShowsAnElementAsItsTableSays) {
   }
 }
 
-TEST(TheDisplayFilter, HasAColourForEveryElementThatIsNoGrey) {
+TEST(TheDisplayFilter, HasAColourForEveryElementThatIsNotGrey) {
   std::size_t hued = 0;
   for (const ElementRow& row : kElements) {
     const bool grey = Red(row.Ink) == Green(row.Ink) && Green(row.Ink) == Blue(row.Ink);
@@ -84,9 +85,9 @@ TEST(TheDisplayFilter, LeavesEveryGreyAsItIs) {
   }
 }
 
-// Filter and mixing may change places: what an edge shows is the edge of what is shown. Two steps
-// are the roundings of the two.
-TEST(TheDisplayFilter, MakesOfAnEdgeOverAnyGreyTheEdgeOfTheNewColour) {
+// Filtering and mixing can be done in either order: the filtered edge is the edge of the filtered
+// colour. The roundings of the two allow two steps.
+TEST(TheDisplayFilter, TurnsAnEdgeOverAnyGreyIntoTheEdgeOfTheNewColour) {
   for (const Eye eye : kEyes) {
     const DisplayFilter filter(eye);
     for (const ElementRow& row : kElements) {
@@ -123,7 +124,7 @@ TEST(TheDisplayFilter, HasNoJumpAnywhereOnTheCircleOfHues) {
   }
 }
 
-TEST(TheDisplayFilter, AppliesToWordsWhatItShowsForAColour) {
+TEST(TheDisplayFilter, AppliesToPixelsWhatItShowsForAColour) {
   for (const Eye eye : kEyes) {
     DisplayFilter filter(eye);
     std::vector<Colour> colours;

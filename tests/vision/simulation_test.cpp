@@ -26,7 +26,7 @@ TEST(TheSimulation, WorksOnLightAndNotOnNumbers) {
   EXPECT_NEAR(LightOf(Rgb(10, 0, 0)).Red, 10 / 255.0 / 12.92, 1e-9);
 }
 
-// The first column of each matrix, what is below 0 cut off.
+// The first column of each matrix, with values below 0 cut off.
 TEST(TheSimulation, OfPureRedIsTheMatricesFirstColumn) {
   const Light red{1, 0, 0};
 
@@ -43,8 +43,8 @@ TEST(TheSimulation, OfPureRedIsTheMatricesFirstColumn) {
   EXPECT_DOUBLE_EQ(tritan.Blue, 0.004733);
 }
 
-// To an eye without red or green cones red and green of one brightness differ by little, to one
-// without blue cones by much.
+// To an eye without red or green cones, red and green of the same brightness differ little; to one
+// without blue cones they differ much.
 TEST(TheSimulation, RedAndGreenComeTogetherForProtanAndDeutanOnly) {
   const auto spread = [](Eye eye) {
     const Light light = Simulated(eye, LightOf(Rgb(230, 60, 40)));

@@ -1,4 +1,4 @@
-// The main window's table, walked: names, containers, captions, places.
+// Walks the main window's table: names, containers, captions, places.
 #include "windows/main_window.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ TEST(MainWindowTable, BeginsWithTheWindowItself) {
   EXPECT_EQ(MainWindowTable().front().Kind, ControlKind::Window);
 }
 
-TEST(MainWindowTable, AContainerStandsBeforeWhatItHolds) {
+TEST(MainWindowTable, AContainerComesBeforeWhatItHolds) {
   std::set<std::string_view> seen;
   for (const ControlRow& row : MainWindowTable()) {
     EXPECT_TRUE(row.Parent.empty() || seen.contains(row.Parent)) << row.Name;
@@ -198,7 +198,7 @@ TEST(MainWindowTable, WhatThisVersionDoesNotOfferIsNeitherShownNorEnabled) {
   }
 }
 
-// Whether a rectangle lies in its container; both in the container's twips.
+// Whether a rectangle lies in its container; both are in the container's twips.
 bool LiesIn(const Place& at, int left, int top, int width, int height) {
   return at.Left >= left && at.Top >= top && at.Left + at.Width <= width &&
          at.Top + at.Height <= height;
@@ -211,7 +211,7 @@ TEST(MainWindowTable, EveryPlaceLiesInsideTheDeskOrItsContainer) {
     EXPECT_GT(row.At.Width, 0) << row.Name;
     EXPECT_GT(row.At.Height, 0) << row.Name;
     if (row.Parent.empty()) {
-      // The heading stands in the menu strip.
+      // The heading is in the menu strip.
       EXPECT_TRUE(LiesIn(row.At, 0, -kStripHeight, kDeskWidth, kDeskHeight)) << row.Name;
     } else {
       const Place& holder = rows.at(row.Parent)->At;
@@ -229,7 +229,7 @@ TEST(MainWindowTable, ThePictureIsASquareOf360Pixels) {
   EXPECT_EQ(window.Picture1.Parent, &window.P_Pic1);
 }
 
-TEST(MainWindowTable, TheTabOrderHasNoGapAndNoDouble) {
+TEST(MainWindowTable, TheTabOrderHasNoGapAndNoDuplicate) {
   std::set<int> stops;
   for (const ControlRow& row : MainWindowTable()) {
     if (row.TabStop == 0) continue;

@@ -10,7 +10,7 @@
 namespace orvane {
 namespace {
 
-// What takes no pointer and no keyboard, and so shows no tip; and the windows themselves.
+// The windows themselves, and controls that take no pointer and no keyboard and so show no tip.
 bool CanShowATip(const ControlRow& row) {
   switch (row.Kind) {
     case ControlKind::Ornament:
@@ -21,7 +21,7 @@ bool CanShowATip(const ControlRow& row) {
     default:
       break;
   }
-  // The stored frames of the splash are shown in its image boxes alone.
+  // The stored frames of the splash are shown only in its image boxes.
   return !row.Name.starts_with("Pro_Image") && !row.Name.starts_with("DNA_Image");
 }
 
