@@ -1,4 +1,4 @@
-// Ends with 0 when a window can be opened here. Without a display Qt ends the process itself.
+// Exits with 0 if a window can be opened here. Without a display Qt ends the process itself.
 #include <QGuiApplication>
 
 int main(int argc, char** argv) {

@@ -4,7 +4,7 @@
 
 say() { printf 'Orvane: %s\n' "$*" >&2; }
 
-# Prints the packages of one group of dependencies.txt, one a line.
+# Prints the packages of one group of dependencies.txt, one on each line.
 packages_of() {
   awk -v group="[$1]" '/^\[/ { inside = ($1 == group); next } inside && NF && !/^#/ { print $1 }' \
     "$root/dependencies.txt"
@@ -44,7 +44,7 @@ need_packages() {
   fi
 }
 
-# Runs a command that has nothing to say unless it fails; then all that it said is shown.
+# Runs a command and shows what it printed only if it fails.
 quietly() {
   local log status=0
   log=$(mktemp)
@@ -76,7 +76,7 @@ build_preset() {
   fi
 }
 
-# Says of each test that left itself out why it did, from the report of a run of ctest.
+# Says why each skipped test was skipped, from the report of a run of ctest.
 why_left_out() {
   local name reason
   while IFS=$'\t' read -r name reason; do
@@ -88,6 +88,6 @@ why_left_out() {
     out == "" { next }
     /<\/system-out>/ { printf "%s\t%s\n", out, last; out = ""; next }
     told { last = $0; told = 0; kept = out; next }
-    / Skipped$/ { told = 1; next }  # the reason that a test of ours gives stands on the next line
+    / Skipped$/ { told = 1; next }  # our own tests give the reason on the next line
     NF && kept != out { last = $0 }' "$1")
 }

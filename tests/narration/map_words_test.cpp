@@ -78,7 +78,7 @@ TEST_F(MapWordsTest, EachCircleOfTheHelixGivesItsResidueAndItsTorsions) {
     for (const Said& said : Understood(At(1, circles[k].X1, circles[k].Y1))) {
       if (said.Residue != residue) continue;
       told = true;
-      // The survey's factor for degrees is too large by 1.00002: that is 0.003 in 180.
+      // The survey's factor for degrees is too large by a factor of 1.00002: 0.003 in 180.
       EXPECT_NEAR(said.Phi, -Surveyed(desk.molecule, ca - 4, ca - 1, ca, ca + 1), 0.06);
       EXPECT_NEAR(said.Psi, -Surveyed(desk.molecule, ca - 1, ca, ca + 1, ca + 4), 0.06);
     }

@@ -11,8 +11,8 @@
 namespace orvane::backgrounds {
 namespace {
 
-// A shade with fractions of a step, 0 to 255 a channel. All of them are dark: the blue of nitrogen
-// is itself dark, and a projector lifts the black of every picture.
+// A shade with fractions of a step, 0 to 255 in each channel. All shades are dark: the blue of
+// nitrogen is itself dark, and a projector makes the black of every picture lighter.
 struct Shade {
   double Red, Green, Blue;
 };
@@ -23,7 +23,7 @@ Shade Between(const Shade& from, const Shade& to, double share) {
           from.Blue + s * (to.Blue - from.Blue)};
 }
 
-// A step without corners, from 0 to 1.
+// A smooth step from 0 to 1.
 double Ease(double share) {
   const double s = std::clamp(share, 0.0, 1.0);
   return s * s * (3.0 - 2.0 * s);
@@ -38,10 +38,10 @@ double FromMiddle(double x, double y) {
   return std::sqrt(dx * dx + dy * dy);
 }
 
-// What is left of a value when whole periods are taken off, 0 to under `period`.
+// The rest of a value after whole periods are taken off, from 0 to below `period`.
 double Within(double value, double period) { return value - period * std::floor(value / period); }
 
-// How much of a line about a pixel and a half wide covers a pixel so far from its middle.
+// How much of a pixel is covered by a line about a pixel and a half wide, this far from its middle.
 double LineCover(double distance) { return std::clamp(1.25 - distance, 0.0, 1.0); }
 
 // Deep slate, lit from above.
@@ -67,13 +67,13 @@ Shade Vignette(double x, double y) {
   return Between({36, 22, 21}, {5, 3, 5}, Ease(FromMiddle(x, y) / 1.25));
 }
 
-// A honeycomb that comes up towards the edges and leaves the middle to the molecule.
+// A honeycomb that appears towards the edges and leaves the middle to the molecule.
 Shade Honeycomb(double x, double y) {
   constexpr double kCell = 46;  // between two opposite sides
   const double row = std::sqrt(3.0);
   const double u = x / kCell;
   const double v = y / kCell;
-  // The cells' middles stand on two interleaved rectangles; the nearer one counts.
+  // The middles of the cells lie on two interleaved rectangular grids; the nearer one counts.
   const double ax = Within(u, 1) - 0.5, ay = Within(v, row) - row / 2;
   const double bx = Within(u - 0.5, 1) - 0.5, by = Within(v - row / 2, row) - row / 2;
   const bool first = ax * ax + ay * ay < bx * bx + by * by;
@@ -99,8 +99,8 @@ Shade NightHorizon(double, double y) {
 constexpr std::array<Shade (*)(double x, double y), kBackgroundCount> kPictures = {
     Slate, GraphPaper, Vignette, Honeycomb, NightHorizon};
 
-// Dark shades lie so far apart that their edges show as contours on a large screen. A fixed pattern
-// of thresholds hides them; rows and columns of its bits interleave, so that neighbours differ
+// Dark shades are so far apart that their edges show as contours on a large screen. A fixed pattern
+// of thresholds hides them. The bits of its rows and columns interleave, so that neighbours differ
 // much.
 double Threshold(int x, int y) {
   int rank = 0;

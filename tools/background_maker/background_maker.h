@@ -11,8 +11,8 @@ namespace orvane::backgrounds {
 // Picture `index`, 0 to 4, in the order of the menu.
 Bitmap DrawBackground(int index);
 
-// The picture as the file that is kept: a GIF in the picture's own shades. Empty if it has more
-// than the 256 that such a file can hold.
+// The bytes of the file that is kept: a GIF in the picture's own shades. Empty if there are more
+// than the 256 shades that such a file can hold.
 std::string BackgroundFile(int index);
 
 }  // namespace orvane::backgrounds

@@ -8,7 +8,7 @@
 
 namespace orvane::bench {
 
-// Behind its first windows, with whatever it prints going nowhere.
+// Past its first windows; whatever it prints goes nowhere.
 struct BenchDesk {
   BenchDesk();
 
@@ -17,7 +17,7 @@ struct BenchDesk {
   Orvane_Desk& desk = *player.desk;
 };
 
-// The row of a list that begins with that key; -1 when there is none.
+// The row of a list that begins with that key; -1 if there is none.
 int RowOf(const List& list, std::string_view key);
 void Select(BenchDesk& bench, List& list, std::string_view key);
 
@@ -27,8 +27,8 @@ struct HeaviestDesk : BenchDesk {
   HeaviestDesk();
 };
 
-// Whether such a desk comes to what its name says, else a complaint is printed: its times would say
-// nothing.
+// Whether such a desk really has what its name says. If not, it prints a complaint, since its times
+// would mean nothing.
 bool CanMakeHeaviest();
 
 }  // namespace orvane::bench

@@ -1,4 +1,4 @@
-// Words to paint on, and the unit of the ratios: one memset of the surface.
+// Pixels to paint on, and the unit of the ratios: one memset of the surface.
 #pragma once
 
 #include <benchmark/benchmark.h>

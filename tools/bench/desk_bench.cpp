@@ -1,5 +1,5 @@
-// What the desk itself takes: selections, turns and repaints as lists of strokes, beside the raster
-// of what they draw and one memset of the surface.
+// The time of the desk itself: selections, turns and repaints as lists of strokes, compared with
+// the raster of what they draw and with one memset of the surface.
 #include <cstdio>
 
 #include "bench_desk.h"
@@ -14,7 +14,7 @@ namespace {
 
 BENCHMARK(Memset);
 
-// Tryptophan grows by one load of the whole text an atom, and each load paints and resets.
+// Tryptophan grows by a load of the whole text for each atom, and each load paints and resets.
 void SelectTrp(benchmark::State& state) {
   BenchDesk bench;
   const int row = RowOf(bench.desk.main.AA_Lst, "TRP");

@@ -1,5 +1,6 @@
-// How long a picture takes to leave the program: one frame of the heaviest scene in each format,
-// and a whole recording of a turning structure. Bytes are made, not written: no disk is timed.
+// How long it takes to make the file of a picture: one frame of the heaviest scene in each format,
+// and a whole recording of a turning structure. Bytes are made but not written, so no disk is
+// timed.
 #include <memory>
 
 #include <QBuffer>

@@ -1,11 +1,11 @@
-// orvane-first-paint [--then LEAD] COMMAND ...: starts a program of windows and prints how many
-// milliseconds pass until its first window stands painted on the screen, and the most memory it had
-// taken until a second after that, in KiB, all its processes together. Then it ends the program.
-// The command LEAD, if there is one, leads the program on to what it shall show; the second counts
-// from its end.
+// orvane-first-paint [--then LEAD] COMMAND ...: starts a program with windows and prints how many
+// milliseconds pass until its first window is painted on the screen. It also prints the peak memory
+// of all its processes together, in KiB, until a second after that. Then it ends the program.
+// The command LEAD, if there is one, makes the program show something; the second then counts from
+// the end of LEAD.
 //
-// A window counts as painted when the screen shows two colours or more where it stands: that is
-// what a user sees of any toolkit, and no program needs to know that it is timed.
+// A window counts as painted when the screen shows two or more colours in its place. A user sees
+// that with any toolkit, and no program needs to know that it is being timed.
 
 #include <algorithm>
 #include <cerrno>
@@ -92,7 +92,7 @@ class Screen {
   xcb_window_t root_;
 };
 
-// The process and all that it started, by their parents.
+// The process and all processes that it started, found by their parents.
 std::set<pid_t> FamilyOf(pid_t eldest) {
   std::map<pid_t, pid_t> parents;
   DIR* proc = opendir("/proc");

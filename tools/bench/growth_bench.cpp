@@ -1,5 +1,5 @@
-// growth_bench [PICTURE.svg]: what a structure costs as it grows from 5 to 596 atoms, the most that
-// a text can hold, and by which power of the atoms; and the same as a picture.
+// growth_bench [PICTURE.svg]: the time that a structure takes as it grows from 5 to 596 atoms, the
+// most that a text can hold, and the power of the atoms with which it grows; also as a picture.
 #include <cmath>
 #include <cstdio>
 #include <fstream>
@@ -50,7 +50,7 @@ void SurveyTorsions(benchmark::State& state) {
 }
 
 constexpr int kSizes[] = {5, 15, 35, 75, 150, 300, 596};
-constexpr int kLeastToSurvey = 15;  // the plot's scale wants two residues behind the first
+constexpr int kLeastToSurvey = 15;  // the plot's scale needs two residues after the first
 
 struct Row {
   const char* Name;

@@ -17,8 +17,8 @@
 namespace orvane::bench {
 namespace {
 
-// A record is a PDB line up to its coordinates. Behind them stand occupancy and temperature factor,
-// and the element, which here is the first letter of every atom's name.
+// A record is a PDB line up to its coordinates. After them come occupancy, temperature factor and
+// the element, which here is the first letter of every atom's name.
 std::string PdbOf(std::string_view records) {
   std::string lines;
   for (std::size_t at = 0; at < records.size(); at += kRecordWidth) {

@@ -1,7 +1,7 @@
 // The heaviest repaint by this program's raster and by two designs with the toolkit's painter.
 //
-// The painter leaves the upper halves of wide registers in use, which slows narrow code behind it
-// down. So the raster is timed first.
+// The painter leaves the upper halves of wide registers in use, which slows down narrow code that
+// runs after it. So the raster is timed first.
 #include <map>
 
 #include <QFont>

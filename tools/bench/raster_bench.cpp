@@ -17,7 +17,7 @@ void PaintAt(benchmark::State& state, const Picture& picture, int side) {
 void Repaint(benchmark::State& state) { PaintAt(state, HeaviestScene(), kSide); }
 BENCHMARK(Repaint);
 
-// What each kind of stroke takes of it.
+// The part of it that each kind of stroke takes.
 void PaintOnly(benchmark::State& state, auto&& is_wanted) {
   Picture picture = HeaviestScene();
   std::erase_if(picture.Strokes, [&](const Stroke& stroke) { return !is_wanted(stroke); });
@@ -53,7 +53,7 @@ void BothHalvesOfAStereoPair(benchmark::State& state) {
 }
 BENCHMARK(BothHalvesOfAStereoPair);
 
-// Larger: a screen of twice the density, the desk maximised on 1920 by 1080, and both together.
+// Larger pictures: a screen of twice the density, the desk maximised on 1920 by 1080, and both.
 constexpr int kDense = 2 * kSide, kMaximised = 801, kMaximisedDense = 1603;
 void RepaintLarge(benchmark::State& state) {
   PaintAt(state, HeaviestScene(), static_cast<int>(state.range(0)));

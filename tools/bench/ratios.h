@@ -10,13 +10,13 @@
 
 namespace orvane::bench {
 
-// What a ratio shall not pass, or shall reach; 0: it is only told.
+// The bound that a ratio must not exceed, or must reach; 0: the ratio is only printed.
 struct Bound {
   double AtMost = 0, AtLeast = 0;
 };
 
-// Keeps the processor's time of each repetition, since others work on the machine too, and prints
-// nothing before all are there.
+// Keeps the processor time of each repetition, since others work on the machine too, and prints
+// nothing until all are done.
 class Ratios : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override {
@@ -32,7 +32,7 @@ class Ratios : public benchmark::ConsoleReporter {
     }
   }
 
-  // The median time of a benchmark by its name; 0 when it did not run.
+  // The median time of a benchmark by its name; 0 if it did not run.
   double Seconds(const std::string& name) const {
     const auto found = times_.find(name);
     return found == times_.end() ? 0 : Median(found->second);
@@ -65,7 +65,7 @@ class Ratios : public benchmark::ConsoleReporter {
   std::map<std::string, std::vector<double>> times_;
 };
 
-// Runs what is registered, as the words of the command say, and prints each time.
+// Runs the registered benchmarks that the command line asks for, and prints each time.
 inline void RunAll(int& argc, char** argv, Ratios& ratios) {
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks(&ratios);

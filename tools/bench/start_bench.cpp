@@ -1,7 +1,7 @@
 // orvane-start-bench: where the time goes between the start of the process and the first picture of
-// a structure, in milliseconds a step. Give it a screen: xvfb-run -a orvane-start-bench
+// a structure, in milliseconds for each step. It needs a screen: xvfb-run -a orvane-start-bench
 //
-// It starts itself anew for each round, since only a new process finds its libraries unloaded; the
+// It starts itself again for each round, since only a new process finds its libraries unloaded. The
 // steps are those of the program.
 #include <algorithm>
 #include <chrono>
@@ -46,7 +46,7 @@ class Steps {
   double last_;
 };
 
-// Leaves the event loop behind the next paint of a window.
+// Leaves the event loop after the next paint of a window.
 class Painted : public QObject {
  public:
   void Await() {
@@ -97,7 +97,7 @@ void PrintMedians(const char* self) {
     QProcess child;
     child.start(QString::fromLocal8Bit(self), {QString::number(Now(), 'f', 6)});
     child.waitForFinished();
-    if (round == 0) continue;  // it has brought the libraries from the disk
+    if (round == 0) continue;  // this round reads the libraries from the disk
     for (const QByteArray& line : child.readAllStandardOutput().split('\n')) {
       const QList<QByteArray> parts = line.split('\t');
       if (parts.size() != 2) continue;

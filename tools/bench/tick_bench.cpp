@@ -1,6 +1,6 @@
-// orvane-tick-bench: spins the double strand in a real window and prints how the ticks come, at 1
-// and at 200 milliseconds, plainly and with everything on (stereo, balls of size 6, width 6,
-// labels, hydrogen bonds). Give it a screen: xvfb-run -a orvane-tick-bench [maximised]
+// orvane-tick-bench: spins the double strand in a real window and prints how regularly the ticks
+// come, at 1 and at 200 milliseconds, plainly and with everything on (stereo, balls of size 6,
+// width 6, labels, hydrogen bonds). It needs a screen: xvfb-run -a orvane-tick-bench [maximised]
 
 #include <algorithm>
 #include <chrono>
@@ -77,7 +77,7 @@ void MeasureTicks(Orvane_Desk& desk, std::vector<Clock::time_point>& ticks, cons
       scene, interval, ticks.size(), kSeconds, at(0.5), at(0.99), gaps.back(), 100 * share);
 }
 
-// Where no window manager runs, nobody else gives a maximised window its size.
+// Without a window manager nobody else gives a maximised window its size.
 void FillTheScreen(Skin& skin, Window& window) {
   WindowWidget& widget = skin.WindowOf(window);
   widget.showMaximized();

@@ -1,5 +1,5 @@
 // orvane-contact-sheet FILE: writes one picture (PPM) of all rows of the four lists, each as it
-// stands after its row was chosen, with balls.
+// looks after its row was chosen, with balls.
 
 #include <algorithm>
 #include <array>

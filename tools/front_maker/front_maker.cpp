@@ -27,11 +27,11 @@ constexpr Scene kDoubleStrand{&MainWindow::DNA_Lst, 2, 0, 3, 5};
 constexpr int kZoomSteps = 5;         // 1.1 to the fifth: from half the frame to 80 per cent
 constexpr double kTurnAFrame = 36.0;  // degrees
 
-// Shown in a box that is higher than wide, a quarter more: the surface's 360 become 447.
+// It is shown in a box that is a quarter higher than wide, so the surface's 360 become 447.
 constexpr Scene kAlanine{&MainWindow::AA_Lst, 2, 1, 15, 7};
 constexpr float kLower = (447 - 360) / 2.0F;
 
-// What a desk draws of a scene, so many frames of it.
+// The frames of a scene, this many of them, as a desk draws them.
 std::vector<std::shared_ptr<const Picture>> Drawn(const Scene& scene, int count) {
   NoPlatform platform;
   const auto owned = StartDesk(platform);

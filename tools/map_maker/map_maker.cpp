@@ -22,7 +22,7 @@ constexpr Ink kHelixMark{253, 71, 95};  // lies over a zone and is larger, so a 
 
 using Outline = std::vector<Spot>;  // a closed polygon
 
-// A curve is its start and then three points a piece: two controls and the end.
+// A curve is its start, and then three points for each piece: two controls and the end.
 Outline Curve(std::span<const Spot> points) {
   constexpr int kPieces = 24;
   Outline outline{points[0]};
@@ -72,7 +72,7 @@ bool IsInside(const Outline& outline, double x, double y) {
   return inside;
 }
 
-// Share of a pixel that an outline covers, from 8 by 8 samples.
+// The share of a pixel that an outline covers, from 8 by 8 samples.
 double Coverage(const Outline& outline, int column, int row) {
   constexpr int kSamples = 8;
   int hits = 0;

@@ -1,5 +1,5 @@
-// Draws the three pictures of the Ramachandran map afresh: zones of allowed torsions and marks of
-// known conformations, from outlines in pixels.
+// Draws the three pictures of the Ramachandran map from outlines in pixels: zones of allowed
+// torsions and marks of known conformations.
 #pragma once
 
 #include <cstdint>
@@ -10,10 +10,11 @@ namespace orvane::maps {
 
 inline constexpr int kMapSide = 140;  // pixels
 
-// Picture 0 (phi below 0, psi above), 1 (both below) or 2 (both above), as 3 bytes a pixel.
+// Picture 0 (phi below 0, psi above), 1 (both below) or 2 (both above), with 3 bytes for each
+// pixel.
 std::vector<std::uint8_t> DrawMap(int index);
 
-// The picture as the file that is kept: binary PPM.
+// The bytes of the file that is kept: a binary PPM.
 std::string MapFile(int index);
 
 }  // namespace orvane::maps

@@ -1,5 +1,5 @@
-// A platform for makers, which show no boxes: whatever the desk asks of it is a mistake of the
-// maker.
+// A platform for makers, which show no boxes: if the desk asks it for anything, the maker has made
+// a mistake.
 #pragma once
 
 #include <cstdlib>

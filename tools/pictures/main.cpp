@@ -5,8 +5,8 @@
 //     # picture NAME CONTROL    one control of it, or of another window: "Picture1", "P_Sterio"
 //     # picture NAME WINDOW     another window: "Ramachandran"
 //
-// A line "restart" begins with another desk and other windows, so that no view stands in the way of
-// the next. For orvane-replay these lines are comments, and the script is a script like any other.
+// A line "restart" begins again with another desk and other windows, so that no view affects the
+// next. For orvane-replay these lines are comments, and the script is a script like any other.
 #include <cstdio>
 #include <fstream>
 #include <memory>
@@ -30,7 +30,7 @@ namespace {
 
 constexpr std::string_view kAsks = "# picture ";
 
-// The desk is the player's, with boxes answered from the script; the windows show it.
+// The desk is the player's, and the script answers its boxes; the windows show it.
 struct Visit {
   std::ostringstream unread;
   Player player{unread};
@@ -52,7 +52,7 @@ QWidget* WidgetNamed(Visit& visit, const std::string& name) {
   return control == nullptr ? nullptr : visit.skin.WidgetOf(*control);
 }
 
-// Empty: done; else what is wrong with the line.
+// Returns what is wrong with the line; empty if it was done.
 std::string Keep(Visit& visit, std::string_view asked, const QDir& folder) {
   std::istringstream words{std::string(asked)};
   std::string name, subject = "Orvane_Desk";

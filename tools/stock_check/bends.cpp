@@ -103,7 +103,7 @@ Neighbours NeighboursIn(const StockRow& row) {
   return of;
 }
 
-// How many bonds lie between an atom and each other one; a large number where no way leads.
+// How many bonds lie between an atom and each other one; a large number if they are not connected.
 std::vector<int> BondsFrom(const Neighbours& neighbours, int start) {
   std::vector<int> bonds(neighbours.size(), 1000);
   bonds[static_cast<std::size_t>(start)] = 0;
@@ -147,7 +147,7 @@ void AddFlatGroups(std::vector<Bend>& measures, const StockRow& row) {
   }
 }
 
-// Angles that a hydrogen takes part in.
+// Angles in which a hydrogen takes part.
 void AddHydrogens(std::vector<Bend>& measures, const StockRow& row) {
   const Neighbours neighbours = NeighboursIn(row);
   for (std::size_t corner = 0; corner < neighbours.size(); ++corner) {
@@ -164,7 +164,7 @@ void AddHydrogens(std::vector<Bend>& measures, const StockRow& row) {
   }
 }
 
-// Whether an electrical pull brings them near: N, O, and hydrogens on nitrogen.
+// Whether electrical attraction brings them near: N, O, and hydrogens on nitrogen.
 bool Attract(const StockRow& row, int a, int b) {
   const auto polar_hydrogen = [&](int atom) {
     return row.Element(atom) == 'H' && row.Find("N") >= 0 &&

@@ -1,6 +1,6 @@
-// Where the twenty amino acids, whose places come from the generator's table, are off the published
-// means: each length, angle and flat group of each is measured. What is beyond three standard
-// deviations, or five degrees, is a bend.
+// Where the twenty amino acids, whose positions come from the generator's table, differ from the
+// published means. Each length, angle and flat group of each is measured. A bend is more than three
+// standard deviations off, or five degrees.
 #pragma once
 
 #include <string>
@@ -22,12 +22,12 @@ enum class BendOf { Length, Angle, Sum, Height, Twist, Rings, Contact };
 struct Bend {
   std::string Residue;
   BendOf Kind = BendOf::Length;
-  std::string Atoms;  // "CD NE CZ"; of two rings their numbers of atoms: "5 6"
+  std::string Atoms;  // "CD NE CZ"; for two rings their numbers of atoms: "5 6"
   double Measured = 0;
   double True = 0;
-  double Deviation = 0;  // standard deviation; 0 where there is none
+  double Deviation = 0;  // standard deviation; 0 if there is none
 
-  double Off() const;  // in standard deviations where there is one, else in units of the limit
+  double Off() const;  // in standard deviations if there is one, else in units of the limit
 };
 
 // Every length, angle and flat group that has a published value, bent or not.
@@ -39,7 +39,7 @@ std::vector<Bend> BendsOf(const StockRow& amino_acid);
 std::vector<Bend> ContactsTooNear(const StockRow& row);
 
 // The mean distance from the published values, in standard deviations, of the ring of histidine
-// when its hydrogen stands on ND1 ("HIS") or on NE2 ("HIE").
+// with its hydrogen on ND1 ("HIS") or on NE2 ("HIE").
 double RingOff(const StockRow& histidine, const std::string& form);
 
 }  // namespace orvane::stock_check

@@ -15,7 +15,7 @@ namespace {
 
 struct Advice {
   std::string_view Residue;
-  std::string_view Words;    // what a teacher says of it
+  std::string_view Words;    // what a teacher says about it
   std::string_view Instead;  // measures near the published mean, with commas between
 };
 
@@ -73,7 +73,7 @@ constexpr auto kAdvice = std::to_array<Advice>({
 
 // clang-format on
 
-constexpr double kGoodSpreads = 1.5;  // what is measured instead is as near as this
+constexpr double kGoodSpreads = 1.5;  // what is measured instead is at least this near
 
 int DecimalsOf(BendOf kind) {
   return kind == BendOf::Length || kind == BendOf::Height || kind == BendOf::Contact ? 2 : 1;
@@ -119,7 +119,7 @@ The side chain leans away from N, and the hydrogen of the alpha carbon towards i
 )";
 
 std::string CommonRows(const std::vector<StockRow>& rows) {
-  // By their atoms, the smallest and the largest true value of all that share them.
+  // By their atoms: the smallest and the largest true value of all bends that share them.
   std::map<std::string, std::vector<Bend>> shared;
   for (const StockRow& row : rows) {
     if (!row.IsAminoAcid() || row.Key == "Gen") continue;

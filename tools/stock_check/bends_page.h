@@ -12,13 +12,13 @@ namespace orvane::stock_check {
 
 std::string BendsPage(const std::vector<StockRow>& rows);
 
-// A bend as the page names it: "CD - NE - CZ"; and what is measured and what is true, as it is
-// written: "142.5".
+// A bend as the page names it, "CD - NE - CZ", and the measured and the true value as they are
+// written, "142.5".
 std::string MeasureWords(const Bend& bend);
 std::string DrawnWords(const Bend& bend);
 std::string TrueWords(const Bend& bend);
 
-// Bends that nearly all of the residues share stand once at the head of the page.
+// Bends that nearly all of the residues share are given once, at the top of the page.
 bool IsCommon(const Bend& bend);
 
 }  // namespace orvane::stock_check

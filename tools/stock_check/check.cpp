@@ -53,7 +53,7 @@ constexpr auto kNucleicTorsions = std::to_array<NucleicTorsion>({
 // clang-format on
 
 constexpr double kTorsionSlack = 0.3;      // degrees: three decimals of a coordinate
-constexpr double kWithoutDeviation = 1.5;  // taken for the standard deviation of an angle, degrees
+constexpr double kWithoutDeviation = 1.5;  // used as the standard deviation of an angle, degrees
 constexpr double kFlatBase = 0.005;        // Angstrom
 constexpr double kFlatPeptide = 0.02;
 
@@ -71,7 +71,7 @@ int AtomFor(const StockRow& row, int residue, std::string_view name) {
   return row.Find(residue, name);
 }
 
-// The places of the named atoms; none where one is missing.
+// The positions of the named atoms; none if one is missing.
 std::vector<Point> PlacesOf(const StockRow& row, int residue, std::string_view atoms) {
   std::vector<Point> places;
   for (const std::string& name : NamesIn(atoms)) {
@@ -94,7 +94,7 @@ void CheckBonds(Verdict& verdict, const StockRow& row) {
   const std::vector<std::string> contacts = ContactsIn(row);
   verdict.Found.push_back("bonds      " + std::to_string(found.size()) + ", and " +
                           std::to_string(contacts.size()) + " contacts in their list");
-  // A pair of hydrogens hangs on one atom, or is H4 with the carbon at its side.
+  // A contact is two hydrogens on one atom, or H4 with the carbon beside it.
   for (const AtomPair& pair : row.Joined) {
     if (!IsContact(row, pair)) continue;
     const bool both = row.Element(pair.A) == 'H' && row.Element(pair.B) == 'H';
@@ -144,7 +144,7 @@ void CheckHands(Verdict& verdict, const StockRow& row) {
   verdict.Found.push_back("hands      " + (words.empty() ? "none" : words));
 }
 
-// The value that lies farthest off among those of one kind, in words.
+// The value that is farthest off among those of one kind, in words.
 struct Farthest {
   double Off = -1;
   std::string Words = "none published";

@@ -1,4 +1,4 @@
-// All that is measured on a row, held against what chemistry asks for.
+// All that is measured on a row, compared with what chemistry requires.
 #pragma once
 
 #include <string>
@@ -9,21 +9,21 @@
 namespace orvane::stock_check {
 
 struct Verdict {
-  std::vector<std::string> Found;  // what was measured, a line a subject
+  std::vector<std::string> Found;  // what was measured, one line for each subject
   std::vector<std::string> Wrong;  // what is not as it must be
 };
 
 // Bonds, contacts and hands of every row; lengths, angles and flatness of what is built from
-// published geometry; sugars, torsions of chains, hydrogen bonds, base pairs. Of the amino acids,
-// whose places are the generator's, lengths and angles are measured and not judged: what is bent in
-// them stands in docs/bends.md.
+// published geometry; sugars, torsions of chains, hydrogen bonds, base pairs. The positions of the
+// amino acids are the generator's, so their lengths and angles are measured but not judged:
+// docs/bends.md says what is bent in them.
 Verdict CheckRow(const StockRow& row);
 
 // The torsion of a chain at a residue, by the names of its atoms: + is the next residue, - the one
-// before. Not a number where an atom is missing.
+// before. Not a number if an atom is missing.
 double TorsionAt(const StockRow& row, int residue, std::string_view atoms);
 
-// The sugar of a residue; of ribose and deoxyribose as well.
+// The sugar of a residue, also of ribose and deoxyribose.
 struct SugarShape {
   double Phase = 0, Amplitude = 0;
 };

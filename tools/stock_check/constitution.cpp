@@ -45,7 +45,7 @@ constexpr auto kSideChainBonds = std::to_array<BondsOfUnit>({
 
 constexpr auto kWholeRows = std::to_array<BondsOfUnit>({
     {"PHS", "P-OP1 P-OP2 P-OP3 P-OP4 OP3-HP3 OP4-HP4"},
-    // The ring oxygen is O1; a hydrogen, H1B, stands where the base would.
+    // The ring oxygen is O1; a hydrogen, H1B, is where the base would be.
     {"RIB", "O1-C1 O1-C4 C1-C2 C1-H1A C1-H1B C2-C3 C2-O2 C2-H2A O2-H2B C3-C4 C3-O3 C3-H3A O3-H3B "
             "C4-C5 C4-H4 C5-O4 C5-H5A C5-H5B O4-H4"},
     {"DRB", "O1-C1 O1-C4 C1-C2 C1-H1A C1-H1B C2-C3 C2-H2A C2-H2B C3-C4 C3-O3 C3-H3A O3-H3B "
@@ -59,8 +59,8 @@ constexpr auto kBaseBonds = std::to_array<BondsOfUnit>({
     {"T", "C2-N1 C2-N3 C2-O2 C4-C5 C4-N3 C4-O4 C5-C5M C5-C6 C6-N1"},
 });
 
-// By rank. CB of threonine bears O, then CA (N, C), then the methyl group; that of isoleucine CA,
-// then CG1 (C), then the methyl group. The table of the generator makes it R, where nature has S.
+// By rank. CB of threonine carries O, then CA (N, C), then the methyl group; that of isoleucine CA,
+// then CG1 (C), then the methyl group. The generator's table makes it R, where nature has S.
 struct CentreOfUnit {
   std::string_view Unit, Centre, First, Second, Third;
   char Expected;
@@ -200,7 +200,7 @@ std::vector<std::string> ExpectedBonds(const StockRow& row) {
       AddBonds(bonds, row, residue, kChainBonds);
       AddLink(bonds, row, residue, "C", "N");
     } else if (const std::string_view whole = BondsIn(kWholeRows, row.Key); !whole.empty()) {
-      // H4 is there twice, the second time on O4: both bonds are asked for by the same names.
+      // H4 is there twice, the second time on O4, so both bonds have the same names.
       AddBonds(bonds, row, residue, whole);
     } else {
       const char base = BaseOf(row, residue);
@@ -262,7 +262,7 @@ std::vector<Stereocentre> StereocentresOf(const StockRow& row) {
 
 char HandFound(const StockRow& row, const Stereocentre& centre) {
   const auto at = [&](const std::string& name) { return row.At(row.Find(centre.Residue, name)); };
-  // The hydrogen points away from the eye, the three stand in front: counterclockwise is S.
+  // The hydrogen points away from the eye, the other three are in front: counterclockwise is S.
   return HandOf(at(centre.Centre), at(centre.First), at(centre.Second), at(centre.Third)) > 0 ? 'S'
                                                                                               : 'R';
 }

@@ -1,5 +1,5 @@
-// What is bonded to what in each row, and which hand each carbon has that can have one: by tables
-// of chemistry, so that a row can be held against them.
+// What is bonded to what in each row, and which hand each carbon has that can have one: tables of
+// chemistry with which a row can be compared.
 #pragma once
 
 #include <string>
@@ -10,26 +10,26 @@
 
 namespace orvane::stock_check {
 
-// Bonds of one letter's base and of the deoxyribose that bears it, as "C1*-C2*", each pair in the
-// order of the alphabet.
+// The bonds of one letter's base and of the deoxyribose that carries it, as "C1*-C2*", each pair in
+// alphabetical order.
 std::vector<std::string> BondsOfBase(char base);
 std::vector<std::string> BondsOfSugar(char base);
 bool IsPurine(char base);
-// The letter of a base or of a nucleotide by what it is called: 'A' for "dA" and for "A".
+// The letter of a base or of a nucleotide from its name: 'A' for "dA" and for "A".
 char BaseOf(const StockRow& row, int residue);
 
-// The name of each amino acid as its row's key has it; for the chains the name of their pieces.
+// The name of each amino acid as in its row's key; for the chains the name of their pieces.
 bool IsPeptideChain(const StockRow& row);  // Alfa, Alfb, Beta, Betb, PBS, APBS
 bool HasNucleotides(const StockRow& row);  // nucleosides, nucleotides, strands
 
-// The row without atoms that stand exactly on an earlier one of the same name, as the last residue
-// of Betb does.
+// The row without atoms that are exactly where an earlier one of the same name is, as in the last
+// residue of Betb.
 StockRow WithoutCopies(const StockRow& row);
 
-// The bonds that chemistry asks for, as "3 C-4 N", sorted.
+// The bonds that chemistry requires, as "3 C-4 N", sorted.
 std::vector<std::string> ExpectedBonds(const StockRow& row);
-// Entries of the program's list that are bonds, by the same names, sorted; and those that are none:
-// two hydrogens, or a hydrogen that is farther than any bond of it.
+// Entries of the program's list that are bonds, by the same names, sorted; and those that are not:
+// two hydrogens, or a hydrogen that is farther away than any bond of hydrogen is long.
 std::vector<std::string> BondsIn(const StockRow& row);
 std::vector<std::string> ContactsIn(const StockRow& row);
 bool IsContact(const StockRow& row, const AtomPair& pair);

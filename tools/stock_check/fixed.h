@@ -1,4 +1,4 @@
-// A number as the pages write it.
+// A number in the form of the pages.
 #pragma once
 
 #include <array>
@@ -7,7 +7,7 @@
 
 namespace orvane::stock_check {
 
-// Rounded to so many decimals: "142.5". No minus zero.
+// Rounded to this many decimals: "142.5". There is no minus zero.
 inline std::string Fixed(double value, int decimals) {
   std::array<char, 32> text{};
   std::snprintf(text.data(), text.size(), "%.*f", decimals, value);

@@ -85,7 +85,7 @@ Plane PlaneThrough(std::span<const Point> points) {
       for (std::size_t j = 0; j < 3; ++j) spread[i][j] += parts[i] * parts[j];
     }
   }
-  for (int round = 0; round < 12; ++round) {  // converges by squares: a few rounds are enough
+  for (int round = 0; round < 12; ++round) {  // converges quadratically: a few rounds are enough
     TurnAway(spread, axes, 0, 1);
     TurnAway(spread, axes, 0, 2);
     TurnAway(spread, axes, 1, 2);

@@ -1,5 +1,5 @@
-// The geometry of a handful of points in space, by plain vectors: Angstrom and degrees. A structure
-// as it was read is looked at along z, with x to the right and y down, so it is right-handed.
+// The geometry of a few points in space, by plain vectors: Angstrom and degrees. The eye sees a
+// structure as it was read along z, with x to the right and y down, so it is right-handed.
 #pragma once
 
 #include <array>
@@ -49,7 +49,7 @@ Screw ScrewOf(const std::array<Point, 4>& points);
 
 // How a five-membered ring is bent: the phase from 0 to 360, near 18 for C3'-endo and near 162 for
 // C2'-endo, and the largest torsion (C. Altona and M. Sundaralingam, 1972). The ring begins with
-// the oxygen and goes on with the carbon that bears the base.
+// the oxygen and goes on with the carbon that carries the base.
 struct Pucker {
   double Phase = 0;
   double Amplitude = 0;

@@ -8,8 +8,8 @@ namespace orvane::stock_check {
 
 namespace {
 
-// Charges of 0.42 on C and O, 0.20 on N and H, in units of the electron's; 332 makes kcal/mol of
-// them at Angstrom.
+// Charges of 0.42 on C and O, 0.20 on N and H, in units of the electron's; with distances in
+// Angstrom, 332 turns them into kcal/mol.
 constexpr double kStrength = 0.42 * 0.20 * 332;
 constexpr double kNitrogenToHydrogen = 1.01;
 

@@ -1,6 +1,6 @@
-// orvane-stock-check: measures all rows of the four lists and holds them against what chemistry
-// asks for; prints what it found, and ends with 1 if something is wrong. orvane-stock-check KEY...:
-// these rows alone. orvane-stock-check --bends FILE: writes docs/bends.md.
+// orvane-stock-check: measures all rows of the four lists and compares them with what chemistry
+// requires; prints what it found, and exits with 1 if something is wrong. orvane-stock-check
+// KEY...: only these rows. orvane-stock-check --bends FILE: writes docs/bends.md.
 
 #include <algorithm>
 #include <fstream>

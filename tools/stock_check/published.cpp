@@ -10,8 +10,8 @@ namespace {
 // clang-format off
 
 // R. A. Engh and R. Huber (1991). A name with + belongs to the next residue, one with - to the one
-// before. The angles of 110.0, 115.0 and 123.0 are chosen within the spread; docs/structures.md says
-// why.
+// before. The angles of 110.0, 115.0 and 123.0 are chosen within the spread; docs/structures.md
+// says why.
 constexpr auto kPeptides = std::to_array<Published>({
     {"peptide", "N CA",     1.458, 0.019},
     {"peptide", "CA C",     1.525, 0.021},
@@ -31,7 +31,7 @@ constexpr auto kPeptides = std::to_array<Published>({
 });
 
 // N stands for N9 of a purine and N1 of a pyrimidine. The angles of the sugar and of the phosphate
-// are means; where no deviation is known to us, 1.5 is what crystals commonly show.
+// are means. Where we know no deviation we use 1.5, which is common in crystals.
 constexpr auto kBackbones = std::to_array<Published>({
     {"sugar", "O5* C5*",       1.440, 0.016},
     {"sugar", "C5* C4*",       1.511, 0.008},

@@ -1,5 +1,5 @@
-// Published means of crystal structures, and how far single structures lie from them: one row a
-// length, an angle or a torsion. Angstrom and degrees.
+// Published means of crystal structures, and how far single structures lie from them: one row for
+// each length, angle or torsion. Angstrom and degrees.
 #pragma once
 
 #include <span>
@@ -13,14 +13,14 @@ struct Published {
   std::string_view Unit;   // what it belongs to: "ARG", "sugar", "A"
   std::string_view Atoms;  // two names for a length, three for an angle, the corner in the middle
   double Mean;
-  double Deviation;  // standard deviation; 0 where the source gives none
+  double Deviation;  // standard deviation; 0 if the source gives none
 };
 
-// The side chains of free amino acids: R. A. Engh and R. Huber (2001). HIS bears its hydrogen on
+// The side chains of free amino acids: R. A. Engh and R. Huber (2001). HIS has its hydrogen on
 // ND1, HIE on NE2.
 std::span<const Published> SideChains();
-// What carries them: "GLY", "PRO", and "" for all others. Its carboxylate is that of aspartate,
-// since a chain has one only at its end.
+// The frame that carries them: "GLY", "PRO", and "" for all others. Its carboxylate is that of
+// aspartate, since a chain has one only at its end.
 std::span<const Published> Frames();
 // All of one amino acid: its frame and its side chain. HIS as HIS, or as HIE.
 std::vector<Published> PublishedOf(std::string_view residue);
@@ -36,7 +36,7 @@ std::span<const Published> Backbones();
 // "A", "C", "G", "T": L. Clowney and others (1996).
 std::span<const Published> Bases();
 
-// "CA CB" to its names.
+// Splits "CA CB" into its names.
 std::vector<std::string> NamesIn(std::string_view atoms);
 
 }  // namespace orvane::stock_check

@@ -18,7 +18,7 @@ std::string WithoutBlanks(std::string_view field) {
   return std::string(field.substr(start, field.find_last_not_of(' ') + 1 - start));
 }
 
-// The store numbers atoms from 1, and puts the later one of a pair first.
+// The store numbers atoms from 1, and puts the later atom of a pair first.
 AtomPair PairOf(int later, int earlier) { return {earlier - 1, later - 1}; }
 
 StockRow RowOf(const Molecule& molecule, const List& list) {

@@ -1,4 +1,4 @@
-// A row of the four lists as a chemist looks at it: its atoms as they were read, and what the
+// A row of the four lists as a chemist sees it: its atoms as they were read, and the pairs that the
 // program has joined.
 #pragma once
 
@@ -30,7 +30,7 @@ struct StockRow {
   std::vector<AtomPair> HydrogenBonds;  // as the program lists them
 
   bool IsAminoAcid() const { return List == "AA_Lst"; }
-  // The first atom of that name; of that residue, if one is given. -1 where there is none.
+  // The first atom of that name, in that residue if one is given. -1 if there is none.
   int Find(std::string_view name) const;
   int Find(int residue, std::string_view name) const;
   const Point& At(int atom) const { return Atoms[static_cast<std::size_t>(atom)].At; }

@@ -1,5 +1,5 @@
 // orvane-stock-maker TABLES SOURCE: builds every stock text from the tables in the folder TABLES
-// and writes them as the C++ file SOURCE. Nothing is written when a table is refused.
+// and writes them as the C++ file SOURCE. If a table is refused, it writes nothing.
 #include <fstream>
 #include <iostream>
 

@@ -25,8 +25,8 @@ Point Cylindrical(double r, double theta, double z);
 // the positive axis.
 Point Turned(const Point& p, char axis, double degrees);
 
-// The torsion a-b-c-d in degrees, -180 to 180: positive when d stands clockwise of a for an eye
-// that looks from b to c.
+// The torsion a-b-c-d in degrees, -180 to 180: positive if d is clockwise of a for an eye that
+// looks from b to c.
 double Torsion(const Point& a, const Point& b, const Point& c, const Point& d);
 
 // The point at `length` from `on`, with `angle` to `ang` and `torsion` over `tor`.

@@ -32,7 +32,8 @@ std::string Thousandths(double value) {
 }  // namespace
 
 std::string WriteRecord(const AtomRecord& record) {
-  Column(record, "atom name", record.atom, 3);  // refuses; the name itself is aligned to the left
+  Column(record, "atom name", record.atom,
+         3);  // only to refuse it; the name itself is aligned to the left
   const std::string name = record.atom + std::string(3 - record.atom.size(), ' ');
   return "ATOM" + Column(record, "serial number", std::to_string(record.serial), 7) + "  " + name +
          " " + Column(record, "residue name", record.residue, 3) + " " + record.chain +

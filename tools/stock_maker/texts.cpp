@@ -19,7 +19,7 @@ struct Draft {
   std::vector<AtomRecord> records;
 };
 
-// The pieces that another piece follows, and the doubled residue with which its text ends.
+// The pieces that another piece follows, and the doubled residue at the end of its text.
 constexpr std::array<std::string_view, 3> kEndInBlank = {"TextBetbResidues1To4", "TextBetbResidue5",
                                                          "TextS1Dna"};
 
@@ -40,7 +40,7 @@ std::vector<int> Serials(const Row& row) {
   return serials;
 }
 
-// A nucleotide is named for its base, with a d before it where it is the base alone.
+// A nucleotide is named after its base, with a d before it if it is the base alone.
 char BaseLetter(const std::string& residue) {
   const bool base = residue.size() == 1 || (residue.size() == 2 && residue.front() == 'd');
   return base ? residue.back() : ' ';

@@ -6,15 +6,15 @@
 
 namespace orvane::stock_maker {
 
-// One constant of the program: its name and its records back to back. The closing blank of the last
-// record is there only where another piece follows or the text ends in one.
+// One constant of the program: its name and its records back to back. The last record has its
+// closing blank only if another piece follows or the text ends in a blank.
 struct StockText {
   std::string name;
   std::string records;
 };
 
-// Builds all of them in the order of fixed_texts.tsv and texts.tsv. Refuses, with a message that
-// names the table and row or the record, whatever in the tables of `folder` does not fit.
+// Builds all of them in the order of fixed_texts.tsv and texts.tsv. Refuses anything in the tables
+// of `folder` that does not fit, with a message that names the table and row or the record.
 std::vector<StockText> MakeTexts(const std::string& folder);
 
 }  // namespace orvane::stock_maker

@@ -14,7 +14,7 @@ const Point& AtomOf(const Unit& unit, const Row& row, const char* column) {
   return found->second;
 }
 
-// The first three atoms of a unit have nothing to stand on: they go to 0, along x, and into the
+// The first three atoms of a unit have nothing to refer to: they go to 0, along x, and into the
 // plane of x and y. The picture turns them anyway.
 Point InternalField(const Unit& unit, const Unit& joined, const Row& row) {
   if (Field(row, "on") == "-") return {};
@@ -58,7 +58,7 @@ void ReadUnits(Units& units, const std::string& folder) {
     const std::string& group = Field(row, "group");
     units.atoms[group == "backbone" ? "bdna" : group][Field(row, "atom")] = CylindricalField(row);
   }
-  // The monophosphate takes the place of the phosphate on the same sugar.
+  // The monophosphate replaces the phosphate on the same sugar.
   const Unit backbone = units.atoms["bdna"];
   units.atoms["5MP"] = backbone;
   ReadTableFile(table, folder, "internal_coordinates.tsv");

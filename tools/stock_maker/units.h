@@ -1,4 +1,4 @@
-// The units of the reference tables, and where an atom of a unit stands at a level of its chain.
+// The units of the reference tables, and where an atom of a unit is at a level of its chain.
 #pragma once
 
 #include <map>
@@ -20,8 +20,8 @@ struct Units {
 // Reads the unit tables and places.tsv of a folder.
 void ReadUnits(Units& units, const std::string& folder);
 
-// Where an atom stands. `base` is the residue's base letter, or blank for what is no nucleotide;
-// an atom that the unit has not is looked for in the base. `asker` is named when neither has it.
+// Where an atom is. `base` is the residue's base letter, or blank if it is not a nucleotide. An
+// atom that the unit lacks is looked for in the base. If neither has it, the message names `asker`.
 Point PlaceAtom(const Units& units, const std::string& place, int level, char base,
                 const std::string& atom, const std::string& asker);
 

@@ -23,7 +23,7 @@ constexpr int kWidth = 240, kHeight = 64;  // of its middle, which is shown
 constexpr int kGap = 6;
 constexpr std::uint32_t kPaper = 0xFFFFFFFFu;
 
-// A zigzag of one element after the other, Angstrom. No such molecule is stable; it is a row of
+// A zigzag of one element after another, Angstrom. No such molecule is stable; it is a row of
 // colours.
 std::string SevenAtoms() {
   std::string text;

@@ -5,8 +5,8 @@
 
 namespace orvane::vision {
 
-// A column for each eye. From the top: without the filter, the same simulated, with the filter, the
-// same simulated.
+// One column for each eye. From the top: without the filter, the same simulated, with the filter,
+// the same simulated.
 Bitmap Sheet();
 
 }  // namespace orvane::vision

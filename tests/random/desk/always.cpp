@@ -12,7 +12,7 @@
 namespace orvane {
 namespace {
 
-constexpr double kFarFromTheEnd = 1e150;  // no one action takes a smaller number beyond all numbers
+constexpr double kFarFromTheEnd = 1e150;  // no single action makes a smaller number overflow
 
 struct Bounds {
   const char* Name;
@@ -89,7 +89,7 @@ std::uint64_t DigestOfAsRead(const Molecule& molecule) {
   return digest.Value;
 }
 
-// A zoom has no end, so far beyond the screen the numbers may run out; never before.
+// A zoom has no limit, so numbers may overflow far beyond the screen, but never before.
 std::string NoNumber(const Molecule& molecule, LastSeen& last) {
   double farthest = 0;
   bool all_finite = true;
@@ -105,7 +105,7 @@ std::string NoNumber(const Molecule& molecule, LastSeen& last) {
   return !all_finite && was_in_range ? "a coordinate is no number" : "";
 }
 
-// A selector: at most one cell is 1, and none is another number.
+// A selector: at most one cell is 1, and the others are 0.
 bool IsSelector(int x, int y, int z) {
   const auto is_cell = [](int cell) { return cell == 0 || cell == 1; };
   return is_cell(x) && is_cell(y) && is_cell(z) && x + y + z <= 1;
@@ -119,7 +119,7 @@ std::string WrongAxis(const View& view, bool may_be_set, LastSeen& last) {
   if (!IsSelector(view.SavedAxisX, view.SavedAxisY, view.SavedAxisZ)) {
     return "the saved axis is no selector";
   }
-  // What a release puts back is none where none was ever saved, and nothing else loses an axis.
+  // A release restores no axis if none was ever saved. Nothing else loses an axis.
   const bool has_axis = view.AxisX + view.AxisY + view.AxisZ == 1;
   const bool has_saved = view.SavedAxisX + view.SavedAxisY + view.SavedAxisZ == 1;
   if (!has_axis && has_saved) return "no axis is live, and one is saved";
@@ -128,8 +128,8 @@ std::string WrongAxis(const View& view, bool may_be_set, LastSeen& last) {
   return "";
 }
 
-// A drag turns about an axis of its own, and a release puts back what the press before it saved,
-// however long ago that was; the tags hear of neither.
+// A drag turns about its own axis, and a release restores what the press before it saved, no matter
+// how long ago. The tags are told of neither.
 std::string WrongTag(const Orvane_Desk& desk, bool may_be_set, LastSeen& last) {
   const View& view = desk.view;
   const int cells[] = {view.AxisX, view.AxisY, view.AxisZ};
@@ -191,7 +191,7 @@ std::string UnreadablePicture(const Orvane_Desk& desk) {
     for (const Control* control : window->Controls) {
       std::shared_ptr<const Picture> picture;
       if (control->Row.Kind == ControlKind::PictureBox) {
-        // As a snapshot: the surface is not told that somebody looked.
+        // From a snapshot, so that the surface is not told that somebody looked.
         if (const auto* box = dynamic_cast<const PictureBox*>(control)) picture = box->Image();
       } else if (control->Row.Kind == ControlKind::ImageBox) {
         picture = static_cast<const ImageBox&>(*control).Shown();

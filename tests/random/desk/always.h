@@ -10,25 +10,25 @@
 
 namespace orvane {
 
-// What the actions since the check before were free to change.
+// What the actions since the last check were allowed to change.
 struct Freedom {
   bool MayHaveLoaded = false;   // a structure was read
-  bool MayHaveSetAxis = false;  // the pointer over the picture was moved, or a button let go
+  bool MayHaveSetAxis = false;  // the pointer moved over the picture, or a button was released
 };
 
-// What the check before found, for what an action may not change.
+// What the last check found, for values that an action may not change.
 struct LastSeen {
   std::uint64_t AsRead = 0;  // digest of the coordinates as they were read
   bool HadAxis = true;
   bool TagAgreed = true;       // the pressed tag was that of the live axis
   bool LoadsWereWhole = true;  // no load stopped halfway; the program's own texts never do
-  bool HadMemory = true;  // no command stopped between a field and the caption that tells of it
-  bool InRange = true;    // the working coordinates were far from the end of all numbers
+  bool HadMemory = true;       // no command stopped between a field and the caption that shows it
+  bool InRange = true;         // the working coordinates were far from the end of all numbers
   int Checks = 0;
   std::vector<KeptPicture> Kept;
 };
 
-// Empty: all is well; else the first thing that is not. `thorough` reads every picture, too.
+// Returns the first thing that is wrong; empty if all is well. `thorough` reads every picture too.
 std::string WhatIsWrong(const Orvane_Desk& desk, Freedom freedom, LastSeen& last, bool thorough);
 std::string WhatIsWrong(Sitting& session, LastSeen& last, bool thorough);
 

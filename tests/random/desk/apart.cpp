@@ -46,7 +46,7 @@ Ending RunOnce(const std::function<int()>& live) {
   if (child < 0) CannotRun("no process can be started");
   if (child == 0) {
     dup2(file, STDERR_FILENO);
-    std::exit(live());  // and not _exit: leaks are looked for at the end
+    std::exit(live());  // and not _exit: the search for leaks runs at the end
   }
   Ending ending;
   ending.Status = StatusOf(child);

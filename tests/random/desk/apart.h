@@ -13,9 +13,9 @@ struct Ending {
   std::string Said;  // on its error stream
 };
 
-// Runs `live` and ends that process with what it returns; once more where the search for leaks
-// broke down, since a life is clean only when it was seen to be. Where no process can be had there
-// is nothing to be found out, and this one ends with a message and exit code 2.
+// Runs `live` in a process that ends with what it returns. Runs it once more if the search for
+// leaks broke down, since a life counts as clean only if that was seen. If no process can be
+// started, nothing can be found out, and this one ends with a message and exit code 2.
 Ending RunApart(const std::function<int()>& live);
 
 // All of an open file, from its start.

@@ -1,4 +1,4 @@
-// Chance that is the same on every machine: a seed gives one sequence, for ever.
+// Random numbers that are the same on every machine: a seed always gives the same sequence.
 #pragma once
 
 #include <cstddef>
@@ -17,7 +17,7 @@ struct Dice {
     return mixed ^ (mixed >> 31);
   }
 
-  // The slight preference for small numbers is of no account here.
+  // The slight preference for small numbers does not matter here.
   int Below(int limit) { return static_cast<int>(Next() % static_cast<std::uint64_t>(limit)); }
   int Between(int low, int high) { return low + Below(high - low + 1); }
   bool OneIn(int chances) { return Below(chances) == 0; }

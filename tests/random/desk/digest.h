@@ -1,4 +1,4 @@
-// Many numbers as one, to see that none of them has changed.
+// Combines many numbers into one, to check that none of them has changed.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ struct Digest {
     Value = (Value ^ bits) * 1099511628211u;
     Value ^= Value >> 29;
   }
-  // By its bits: what is no number is equal to itself, too.
+  // By its bits, so that even what is not a number equals itself.
   void MixNumber(double value) {
     std::uint64_t bits = 0;
     std::memcpy(&bits, &value, sizeof bits);

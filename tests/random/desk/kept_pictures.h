@@ -1,4 +1,4 @@
-// A picture that somebody keeps stays as it was, whatever is drawn afterwards.
+// Checks that a kept picture stays as it was, whatever is drawn afterwards.
 #pragma once
 
 #include <cstdint>
@@ -16,8 +16,8 @@ struct KeptPicture {
   std::uint64_t Digest = 0;  // as it was when it was kept
 };
 
-// The first of them that has changed since; then those that show now take their place: what is on
-// the surface, and the halves of the split views.
+// Returns the first of them that has changed since. Then keeps the pictures shown now in their
+// place: that on the surface, and the halves of the split views.
 std::string ChangedPicture(const Orvane_Desk& desk, std::vector<KeptPicture>& kept);
 
 }  // namespace orvane

@@ -1,5 +1,5 @@
-// A life: one desk from its start until so many actions are played, the program ends, or something
-// is wrong.
+// A life: one desk from its start until a number of actions have been played, the program ends, or
+// something is wrong.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@
 
 namespace orvane {
 
-// How often a life by chance has every picture read, too, in actions.
+// After how many actions a random life also reads every picture.
 inline constexpr int kThoroughEvery = 16;
 
 struct Life {
@@ -22,13 +22,13 @@ struct Life {
   std::string Wrong;  // empty: nothing
 };
 
-// Hears each line before it is played.
+// Gets each line before it is played.
 using LineListener = std::function<void(std::string_view line)>;
 
-// Plays a life by chance. A session serves one life.
+// Plays a random life. A session serves one life.
 Life PlayLife(Sitting& session, std::uint64_t seed, int actions, const LineListener& before);
 
-// Plays those lines, with every check behind each: a script that is shortened has few lines.
+// Plays those lines, with every check after each: a shortened script has few lines.
 Life PlayLines(Sitting& session, std::span<const std::string> lines);
 
 }  // namespace orvane

@@ -47,7 +47,7 @@ std::string UnknownCaption(const Orvane_Desk& desk) {
   return "";
 }
 
-// Balls and trace have no row: the menu changes them and leaves their buttons as they are.
+// Balls and trace have no row: the menu changes them but not their buttons.
 std::string OtherThanItsField(const Orvane_Desk& desk) {
   const MainWindow& main = desk.main;
   const Stereo& stereo = desk.stereo;
@@ -64,9 +64,9 @@ std::string OtherThanItsField(const Orvane_Desk& desk) {
       {"Bt3_Sterio",    pair == (stereo.StereoOn == 1)},
       {"R_G_Stereo",    red_green == (stereo.RedGreenOn == 1)},
       {"Bt3_D_L_Str",   four == (stereo.EnantiomerPairOn == 1)},
-      // A measure takes the labels off and leaves the caption.
+      // A measure switches the labels off and leaves the caption.
       {"Bt3_Label",     labels || desk.drawing.LabelsOn == 0},
-      // Both forms stay on where the picture without them could not be drawn.
+      // Both forms stay on if the picture without them could not be drawn.
       {"Bt3_Isomers",   !(isomers || four) || stereo.EnantiomerOn == 1},
       {"P_Auto_Rotate", (spin == kSpinOnLook) == (desk.view.AutoRotateOn == 1)},
   };

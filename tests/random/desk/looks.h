@@ -1,4 +1,4 @@
-// What a control reads and how it looks, against the field that it speaks of.
+// Compares what a control says and how it looks with the field that it shows.
 #pragma once
 
 #include <string>
@@ -7,11 +7,11 @@
 
 namespace orvane {
 
-// Empty where all is well.
+// Empty if all is well.
 std::string UnknownCaption(const Orvane_Desk& desk);
 std::string OtherThanItsField(const Orvane_Desk& desk);
 
-// Number of the axis whose tag is pressed, -1 when it is not just one.
+// The number of the axis whose tag is pressed; -1 unless exactly one is.
 int PressedTag(const MainWindow& main);
 
 }  // namespace orvane

@@ -1,5 +1,5 @@
-// orvane-random-desk: plays at random for as long as one likes, and leaves a short script of what
-// went wrong.
+// orvane-random-desk: plays at random for as long as you like, and leaves a short script of
+// whatever went wrong.
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
@@ -52,11 +52,11 @@ std::vector<std::string> ReadLines(const std::string& file) {
   return lines;
 }
 
-// Keeps the script of a life that went wrong, as short as it can be made and still show the same.
+// Keeps the script of a life that went wrong, as short as it can be and still show the same fault.
 void Report(const Trial& trial, long seed) {
   std::cout << "seed " << seed << " went wrong after " << trial.Lines.size()
             << " actions: " << trial.Reason << "\n";
-  // Played again, its pictures are read behind each line, and one may be found wrong sooner.
+  // When it is played again, its pictures are read after each line, so a fault may be found sooner.
   const Trial again = TryLines(trial.Lines, false);
   const std::string& reason = again.IsWrong ? again.Reason : trial.Reason;
   const auto shows_the_same = [kind = KindOfReason(reason)](const std::vector<std::string>& lines) {
@@ -77,7 +77,7 @@ int PlayAtRandom(const Options& options) {
   long actions = 0, lives = 0, wrong = 0;
   for (long seed = options.Seed; actions < options.Actions; ++seed, ++lives) {
     const Trial trial = TryLife(static_cast<std::uint64_t>(seed), static_cast<int>(options.Life));
-    // One that ended before its first line counts, too, or a run of such would have no end.
+    // A life that ended before its first line counts too, or a run of such lives would never end.
     actions += std::max(static_cast<long>(trial.Lines.size()), 1L);
     for (const auto& [text, count] : trial.Failures) failures[text] += count;
     if (trial.IsWrong) {

@@ -47,7 +47,7 @@ std::string Text(double value) {
   return {text.data(), end.ptr};
 }
 
-// Of all windows, as they are numbered from the first control of the first.
+// The controls of all windows, numbered from the first control of the first window.
 Control& AnyControl(Dice& dice, const Orvane_Desk& desk) {
   std::size_t count = 0;
   for (const Window* window : desk.windows) count += window->Controls.size();
@@ -59,7 +59,7 @@ Control& AnyControl(Dice& dice, const Orvane_Desk& desk) {
   return *desk.windows.front()->Controls.front();
 }
 
-// One that the user can reach, unless chance goes on finding others.
+// One that the user can reach, unless chance keeps finding others.
 Control& AnyOpenControl(Dice& dice, const Orvane_Desk& desk) {
   constexpr int kTries = 12;
   for (int i = 0; i < kTries; ++i) {
@@ -100,7 +100,7 @@ std::string PointerLine(Dice& dice, const Control& control, const std::string& a
   }
 }
 
-// The event of its kind that a control is there for.
+// The main event of a control of this kind.
 std::string UseOf(Dice& dice, Control& control) {
   const std::string name = control.FullName();
   if (dice.OneIn(30)) return Words({dice.OneIn(2) ? "#enter" : "#focus", name});
@@ -128,7 +128,7 @@ std::string UseOf(Dice& dice, Control& control) {
     default:
       if (dice.OneIn(12)) return PointerLine(dice, control, Somewhere(dice, control));
       if (dice.OneIn(40)) return Words({"doubleclick", name});
-      // Keys of sizes and swatches act on the press, and a click follows one on the screen.
+      // Size keys and swatches act on the press; on the screen a click always follows a press.
       return Words({"click", name});
   }
 }
@@ -164,7 +164,7 @@ void AppendAnswer(Dice& dice, const Sitting& session, Lines& lines) {
   lines.push_back("answer " + std::string(dice.Of(std::span(kNames))));
 }
 
-// Something that leaves the desk as it is: neither the end of the program nor a start.
+// Something that leaves the desk running: neither the end of the program nor a new start.
 std::string Anything(Dice& dice, Sitting& session) {
   const Orvane_Desk& desk = session.Desk();
   switch (dice.Below(10)) {
@@ -201,7 +201,7 @@ void AppendTick(Dice& dice, Sitting& session, Lines& lines) {
   lines.push_back(Words({"tick", dice.OneIn(12) ? kTimers[1] : kTimers[0]}));
 }
 
-// Forced: the menu of the music shows nowhere, and what its entries do is complete.
+// Forced: the music menu is never shown, but its entries work.
 void AppendMusic(Dice& dice, Lines& lines) {
   if (dice.OneIn(5)) lines.push_back("sound-fails " + std::to_string(dice.Between(0, 400)));
   if (dice.OneIn(2)) {
@@ -219,7 +219,7 @@ void AppendMusic(Dice& dice, Lines& lines) {
   if (!dice.OneIn(3)) lines.emplace_back("doubleclick File1");
 }
 
-// By keys: over the atoms, or over the names on the map where it shows.
+// By keys: over the atoms, or over the names on the map if it is shown.
 void AppendWalk(Dice& dice, const Orvane_Desk& desk, Lines& lines) {
   const bool on_map = desk.plot.Visible && dice.OneIn(2);
   for (int i = dice.Between(1, 6); i > 0; --i) {
@@ -228,7 +228,7 @@ void AppendWalk(Dice& dice, const Orvane_Desk& desk, Lines& lines) {
   }
 }
 
-// Some ends the program, and so the life: rarely.
+// Some of these end the program and with it the life, so they are rare.
 void AppendClose(Dice& dice, const Orvane_Desk& desk, Lines& lines) {
   const Window& window = *dice.Of(std::span(desk.windows));
   const bool may_end = &window == &desk.main || &window == &desk.front || &window == &desk.content;

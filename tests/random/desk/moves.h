@@ -10,8 +10,8 @@
 
 namespace orvane {
 
-// One action, with the lines that prepare it (an answer to the box it opens, what nests in a tick),
-// as the desk stands now. Most are open to the user; some are not, and some are forced.
+// One action on the desk as it is now, with the lines that prepare it (an answer to the box it
+// opens, what nests in a tick). Most are open to the user; some are not, and some are forced.
 std::vector<std::string> NextLines(Dice& dice, Sitting& session);
 
 }  // namespace orvane

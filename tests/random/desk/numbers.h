@@ -1,4 +1,4 @@
-// The words of a command that plays at random: pairs of a name and a number.
+// The arguments of a program that plays at random: pairs of a name and a number.
 #pragma once
 
 #include <algorithm>
@@ -13,7 +13,7 @@ struct NumberOption {
   long* Value;
 };
 
-// Writes the number of the option of that name; false when there is none, or `text` is no number.
+// Sets the option of that name; false if there is none, or if `text` is not a number.
 inline bool ReadNumber(std::span<const NumberOption> options, std::string_view name,
                        std::string_view text) {
   const auto option = std::find_if(options.begin(), options.end(),

@@ -15,7 +15,7 @@ std::string OutsideBounds(const Orvane_Desk& desk, int atoms) {
       std::tie(desk.molecule, desk.walk, desk.measure, desk.survey, desk.drawing);
   // Every load sets the second of a pair to 2, however few atoms there are. A survey, a third or
   // fourth pick and the marks of the planes outlive the structure in which they were made.
-  // A walk that began at another structure keeps its number and stands on none.
+  // A walk that began at another structure keeps its number and is on no atom.
   const int walked = walk.Load == molecule.Loads ? atoms : kMostAtoms;
   // clang-format off
   const Bounds rows[] = {
@@ -44,7 +44,7 @@ std::string OutsideBounds(const Orvane_Desk& desk, int atoms) {
   return "";
 }
 
-// A cleared table has zeros up to the count of atoms that was.
+// A cleared table has zeros up to the previous count of atoms.
 std::string WrongPair(const char* kind, int number, int later, int earlier, int atoms) {
   const bool is_cleared = later == 0 && earlier == 0;
   if (is_cleared || (earlier >= 1 && later > earlier && later <= atoms)) return "";

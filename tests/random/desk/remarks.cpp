@@ -87,7 +87,7 @@ std::string TakeStep(Sitting& session, ScriptLine& words) {
   const std::string_view name = words.NextWord();
   for (const Step& step : kSteps) {
     if (step.Name != name) continue;
-    // A pick ends with a button let go over the picture.
+    // A pick ends when a button is released over the picture.
     session.MayHaveSetAxis |= name == "pick";
     step.Take(session.Desk());
     return "";
@@ -95,7 +95,7 @@ std::string TakeStep(Sitting& session, ScriptLine& words) {
   return "there is no such step";
 }
 
-// As a skin does it: the surfaces and the snapshots that stand on the screen now.
+// As a skin does it: the surfaces and the snapshots that are on the screen now.
 std::string Look(Sitting& session, ScriptLine& words) {
   const double scale = RealNumber(words.NextWord()).value_or(1);
   for (const Window* window : session.Desk().windows) {

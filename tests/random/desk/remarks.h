@@ -1,15 +1,15 @@
 // The lines that begin with '#': actions for which a replay script has no word. To orvane-replay
-// they are comments, so what hangs on one is not seen there.
+// they are comments, so it does not show what depends on one.
 //
-//   #nest LINE             the next time events are let run, LINE is played inside
+//   #nest LINE             the next time that pending events run, LINE is played among them
 //   #save-fails / #saves   saves fail / work from here on
-//   #enter NAME            the pointer comes onto a control
-//   #focus NAME            the keyboard comes to a control
+//   #enter NAME            the pointer enters a control
+//   #focus NAME            a control gets the keyboard
 //   #resize WINDOW STATE LEFT TOP WIDTH HEIGHT    STATE: 0 normal, 1 minimised, 2 maximised
-//   #close WINDOW          the user closes a window that shows by its frame
-//   #folder LIST PATH      a list of the music chooser is led to a folder
+//   #close WINDOW          the user closes a visible window by its frame
+//   #folder LIST PATH      a list of the music chooser opens a folder
 //   #choose LIST NAME      a file is chosen in it
-//   #walk STEP             next, previous, first or last of the atoms, by keys; or pick the present
+//   #walk STEP             next, previous, first or last of the atoms, by keys; or pick this one
 //   #map STEP              next or previous name on the map, by keys
 //   #look SCALE            everything that shows is painted at that scale
 #pragma once

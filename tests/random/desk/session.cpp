@@ -11,7 +11,7 @@ std::string PlayOne(Sitting& session, std::string_view line);
 
 void ListenToPending(Sitting& session) {
   session.player.platform->PendingEvents = [&session] {
-    // What is played may let events run in its turn, and finds what is left.
+    // What is played here may itself let events run, and then finds the rest.
     while (!session.Pending.empty()) {
       const std::string line = session.Pending.front();
       session.Pending.pop_front();

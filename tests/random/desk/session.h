@@ -1,4 +1,4 @@
-// A desk that is played by chance: lines of a replay script, and a few remarks of its own for what
+// A desk that is played at random: by lines of a replay script, and by a few lines of its own for
 // no script can ask (random/desk/remarks.h).
 #pragma once
 
@@ -36,17 +36,17 @@ struct Sitting {
   std::vector<std::uint32_t> canvas;
   std::deque<std::string> Pending;  // what the next pending events will be
 
-  std::string NestedComplaint;  // of the first line inside the present one that was no action
+  std::string NestedComplaint;  // of the first line inside this one that was not an action
 
-  // What the line played last, with all that nested in it, was allowed to change.
+  // What the last line, with all that nested in it, was allowed to change.
   bool MayHaveLoaded = false;   // a structure was read
-  bool MayHaveSetAxis = false;  // the pointer over the picture was moved, or a button let go
+  bool MayHaveSetAxis = false;  // the pointer moved over the picture, or a button was released
 
   Orvane_Desk& Desk() { return *player.desk; }
 };
 
-// Plays one line. Empty: done; else the line, or one that nested in it, is no action, for the
-// reason that is returned.
+// Plays one line. Returns why the line, or one that nested in it, is not an action; empty if it was
+// done.
 std::string PlayRandomLine(Sitting& session, std::string_view line);
 
 }  // namespace orvane

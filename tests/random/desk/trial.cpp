@@ -14,9 +14,9 @@ namespace orvane {
 namespace {
 
 constexpr unsigned kLongestLife = 240;  // seconds; a longer one hangs
-constexpr int kWrongExit = 3;           // the reason stands at the end of the lines
+constexpr int kWrongExit = 3;           // the reason is at the end of the lines
 
-// Marks what is no line of the life: "\1reason", "\2count text".
+// Marks lines that are not of the life: "\1reason", "\2count text".
 constexpr char kReasonMark = '\1', kFailureMark = '\2';
 
 void Write(int file, std::string text) {

@@ -12,12 +12,12 @@ namespace orvane {
 struct Trial {
   bool IsWrong = false;
   std::string Reason;                    // what a check found, or how the process ended
-  std::vector<std::string> Lines;        // as far as it came
-  std::map<std::string, long> Failures;  // failure boxes by text; of a life that went well
+  std::vector<std::string> Lines;        // as far as it got
+  std::map<std::string, long> Failures;  // failure boxes by text, if the life went well
 };
 
 Trial TryLife(std::uint64_t seed, int actions);
-// `speaks`: what a sanitizer says about it is shown.
+// `speaks`: show what a sanitizer says about it.
 Trial TryLines(const std::vector<std::string>& lines, bool speaks);
 
 }  // namespace orvane

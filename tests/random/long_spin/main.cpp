@@ -1,5 +1,5 @@
-// orvane-long-spin: a spin with every composition on, tick after tick as fast as it goes, and how
-// much memory the process has at its start, its quarters and its end.
+// orvane-long-spin: spins with every composition on, tick after tick as fast as it can, and prints
+// how much memory the process has at the start, at each quarter and at the end.
 #include <charconv>
 #include <chrono>
 #include <cstdio>
@@ -18,7 +18,7 @@ namespace orvane {
 namespace {
 
 constexpr long kTicksAnHour = 3600 * 1000;  // at the fastest interval, one millisecond
-// A window paints every eighth millisecond at the most.
+// A window paints every eighth millisecond at most.
 constexpr long kTicksAPaint = 8;
 constexpr int kQuarters = 4;
 
@@ -46,8 +46,8 @@ void Paint(const Orvane_Desk& desk, Raster& raster, std::vector<std::uint32_t>& 
   }
 }
 
-// The double strand with everything that can be drawn of it. The compositions exclude one another
-// at the window's buttons, so their flags are set here: each tick makes all three.
+// The double strand with everything that can be drawn of it. The window's buttons do not allow the
+// compositions together, so their flags are set here: each tick makes all three.
 void SetUp(Orvane_Desk& desk) {
   Click(desk, desk.front.Get_in);
   Click(desk, desk.content.Get_in);
@@ -72,7 +72,7 @@ int Spin(long ticks) {
   std::vector<std::uint32_t> canvas;
   const auto start = std::chrono::steady_clock::now();
   for (long tick = 0; tick <= ticks; ++tick) {
-    // The first turn fills what is kept between paints, so it is no part of the count.
+    // The first turn fills what is kept between paints, so it does not count.
     if (tick % (ticks / kQuarters) == 0) {
       const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
       std::printf("%8ld ticks %8ld KB resident %7.0f s\n", tick, ResidentMemory(), seconds.count());

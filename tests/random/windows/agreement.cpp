@@ -22,7 +22,7 @@ QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// The picture and the pair in its place are called by what they show, and no sooner than a reader
+// The picture and the pair in its place are named by what they show, but only once a screen reader
 // listens.
 bool IsCalledByWhatItShows(const ControlView& view) {
   const MainWindow& main = view.host.skin.desk.main;
@@ -88,7 +88,7 @@ std::shared_ptr<const Picture> PictureOf(const Control& control) {
   return nullptr;
 }
 
-// What is on the screen of a picture, or of a half of a split view, against one that is made anew.
+// Compares a picture on the screen, or a half of a split view, with a newly made one.
 std::string PixelsDiffer(ControlView& view) {
   auto* shown = dynamic_cast<PictureWidget*>(&view);
   if (shown == nullptr || !shown->isVisible()) return "";

@@ -120,7 +120,7 @@ void ChooseARow(Hands& hands, QWidget& window) {
   if (list == nullptr || list->Rows().isEmpty()) return ClickSomewhere(hands, window);
   const int row = list->FirstRow() + hands.dice.Below(std::max(1, list->WholeRows()));
   const QPoint place = list->mapTo(&window, list->RowMiddle(row));
-  const bool twice = hands.dice.OneIn(3);  // a folder is opened so, and a tune played
+  const bool twice = hands.dice.OneIn(3);  // this opens a folder, or plays a tune
   Tell(hands,
        (twice ? "choose twice row " : "choose row ") + std::to_string(row) + At(window, place));
   const QPointer<QWindow> handle = window.windowHandle();
@@ -177,7 +177,7 @@ void OpenAMenu(Hands& hands, QWidget& window) {
   QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, place);
 }
 
-// As the windows do it: none while a box is up.
+// As the windows do it: not while a box is open.
 void TickATimer(Hands& hands, QWidget&) {
   const bool front = hands.dice.OneIn(10);
   Tell(hands, front ? "tick the splash" : "tick");
@@ -185,7 +185,7 @@ void TickATimer(Hands& hands, QWidget&) {
   if (!hands.outside.BoxIsUp()) Tick(desk, front ? desk.front.Timer1 : desk.main.Timer1);
 }
 
-// Its menu shows nowhere, so it is opened past it; none while a box is up.
+// Its menu is never shown, so it is opened directly; not while a box is open.
 void OpenTheChooser(Hands& hands, QWidget&) {
   Tell(hands, "open the music chooser");
   Orvane_Desk& desk = hands.skin.desk;
@@ -245,7 +245,7 @@ constexpr Happening kInWindows[] = {
     {70, OpenAMenu},       {70, TickATimer}, {25, ChooseARow},    {25, MoveFocus},
     {12, Reshape},         {4, CloseIt},     {8, ChangeTheWorld}, {5, OpenTheChooser},
 };
-// A menu or a box has fewer things to do, and one of them is to end it.
+// A menu or a box offers fewer actions, and one of them is to end it.
 constexpr Happening kInBoxes[] = {
     {60, ClickSomewhere}, {8, Press},      {8, LetGo}, {15, MoveTo}, {3, ClickTwice},
     {3, TurnWheel},       {45, PressAKey}, {40, Type}, {5, CloseIt},

@@ -1,4 +1,4 @@
-// The hands of a user without a plan: one event of the toolkit after the other.
+// The hands of a user without a plan: one event of the toolkit after another.
 #pragma once
 
 #include <functional>
@@ -14,15 +14,15 @@ struct Hands {
   Dice dice;
   Skin& skin;
   OutsideAtRandom& outside;
-  // Hears of each event before it is made.
+  // Is told of each event before it is made.
   std::function<void(const std::string& event)> Telling;
 };
 
-// One event for whoever takes events now: the menu that is open, else the box that is up, else one
-// of the windows. A click counts as one.
+// Makes one event for what takes events now: the open menu, or else the open box, or else one of
+// the windows. A click counts as one.
 void OneEvent(Hands& hands);
 
-// Ends the menu or the box that is up, whatever it asks.
+// Ends the open menu or box, whatever it asks.
 void DismissWhatIsUp();
 
 bool SomethingIsUp();

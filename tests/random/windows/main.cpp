@@ -1,4 +1,4 @@
-// orvane-random-windows: events at random at the real windows, on no screen. Each sitting is a
+// orvane-random-windows: random events at the real windows, without a screen. Each sitting is a
 // process of its own, so that a crash ends that sitting alone and its events are known.
 #include <cstdio>
 #include <deque>
@@ -42,7 +42,7 @@ bool ReadOptions(int argc, char** argv, Options& options) {
   return argc % 2 == 1;
 }
 
-// What the toolkit remarks about a screen that is none.
+// What the toolkit remarks about a screen that does not exist.
 void BeQuiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
   if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << text.toStdString() << std::endl;
 }

@@ -1,4 +1,5 @@
-// The outside world of windows at random: the program's own, but for what would reach beyond them.
+// The outside world of the random windows: the program's own, except for what would reach beyond
+// the
 #pragma once
 
 #include <QTemporaryDir>
@@ -7,9 +8,9 @@
 
 namespace orvane {
 
-// Boxes are the real ones. Pictures go to a folder that is gone afterwards, pages onto paper of
-// memory, tunes nowhere, and a wait lets events run once instead of until the next second. The home
-// of the one who plays is that folder, with a few tunes for the chooser.
+// windows. Boxes are real. Pictures go to a folder that is removed afterwards, pages are printed in
+// memory, tunes are not played, and a wait lets events run once instead of until the next second.
+// The player's home is that folder, with a few tunes for the chooser.
 class OutsideAtRandom : public QtPlatform {
  public:
   OutsideAtRandom();
@@ -17,9 +18,9 @@ class OutsideAtRandom : public QtPlatform {
   bool Ended = false;      // the program was told to end
   bool SavesFail = false;  // there is no folder to save to
   bool HasPrinter = true;
-  bool IsLetting = false;  // events are let run
+  bool IsLetting = false;  // events are running
   int SoundError = 0;      // of every tune that is opened
-  int Failures = 0;        // boxes that told of one
+  int Failures = 0;        // boxes that reported one
 
   void Beep() override {}
   void FailureBox(std::string_view text) override;

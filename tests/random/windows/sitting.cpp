@@ -20,8 +20,8 @@ namespace {
 
 constexpr int kThoroughEvery = 16;
 constexpr int kDeepest = 3;      // events inside events
-constexpr int kNestOneIn = 4;    // where events are let run and nothing is up
-constexpr int kMostInOne = 300;  // events while one is under way; then what is up is ended
+constexpr int kNestOneIn = 4;    // where events run and no box or menu is open
+constexpr int kMostInOne = 300;  // events inside one event; then the open box or menu is ended
 
 struct Table : QObject {
   OutsideAtRandom outside;
@@ -49,7 +49,7 @@ struct Table : QObject {
     Click(desk, desk.content.Get_in);
   }
 
-  // Whoever may load says so, also when it fails.
+  // An event that may load says so, even if it fails.
   void NoteLoads() {
     const auto loads = [this](const Event&) { freedom.MayHaveLoaded = true; };
     for (Control* control :
@@ -77,8 +77,8 @@ struct Table : QObject {
 
   static int LoopLevel() { return QThread::currentThread()->loopLevel(); }
 
-  // While an event is under way, what waits inside it gets some: a box its answer, a tick whatever
-  // nests in it. The toolkit's own steps from one event to the next are no such place.
+  // While an event goes on, whatever waits inside it gets events: a box its answer, a tick whatever
+  // nests in it. The toolkit's own steps from one event to the next do not count.
   void ComeInBetween() {
     if (depth == 0) return;
     Listen();
@@ -91,8 +91,8 @@ struct Table : QObject {
     }
   }
 
-  // A timer of no time comes with the next events that are let run. One does not come while it is
-  // still being heard, so each time it is another.
+  // A timer of zero time fires with the next events that run. It does not fire again while it is
+  // being handled, so each time it is a new one.
   void Listen() {
     if (listening == 0) listening = startTimer(0);
   }

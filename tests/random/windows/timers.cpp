@@ -7,8 +7,8 @@ namespace orvane {
 
 HeldTimers::HeldTimers() { QCoreApplication::instance()->installEventFilter(this); }
 
-// A ticker hears of its beats by a notifier of its own. Silenced, it comes back with the next start
-// of the ticker, and is silenced again.
+// A ticker gets its beats from its own notifier. The next start of the ticker switches the notifier
+// on again, and then it is silenced again.
 bool HeldTimers::eventFilter(QObject* object, QEvent* event) {
   if (event->type() != QEvent::SockAct || object->parent() != nullptr) return false;
   if (auto* notifier = qobject_cast<QSocketNotifier*>(object)) notifier->setEnabled(false);

@@ -1,11 +1,11 @@
-// Ticks at the command of chance instead of the clock, so that a sitting can be played again.
+// Ticks that chance decides instead of the clock, so that a sitting can be played again.
 #pragma once
 
 #include <QObject>
 
 namespace orvane {
 
-// Keeps the timers of the windows from ticking by themselves, as long as it lives.
+// While it exists, it keeps the timers of the windows from ticking by themselves.
 class HeldTimers : public QObject {
  public:
   HeldTimers();
