@@ -6,8 +6,8 @@
 
 namespace orvane {
 
-// 2/pi after its point, the first digits first. Behind 96 zeros, since an angle may begin that far
-// below the point; as many digits as the largest double needs.
+// The digits of 2/pi after the point, the first ones first. 96 zeros come before them, since an
+// angle may begin that far below the point. There are as many digits as the largest double needs.
 // clang-format off
 inline constexpr std::array<std::uint32_t, 45> kTwoOverPi = {
     0,          0,          0,
@@ -19,7 +19,7 @@ inline constexpr std::array<std::uint32_t, 45> kTwoOverPi = {
     0x7527bac7, 0xebe5f17b, 0x3d0739f7, 0x8a5292ea, 0x6bfb5fb1, 0x1f8d5d08,
     0x56033046, 0xfc7b6bab, 0xf0cfbc20, 0x9af4361d, 0xa9e39161, 0x5ee61b08};
 
-// pi/2, the last digits first; the point stands before the last word.
+// pi/2, the last digits first; the point comes before the last word.
 inline constexpr std::array<std::uint32_t, 10> kHalfPi = {
     0xa29410f3, 0x76273644, 0x04177d4c, 0x14cf98e8, 0x52049c11,
     0x01b839a2, 0x898cc517, 0x42d18469, 0x921fb544, 0x00000001};

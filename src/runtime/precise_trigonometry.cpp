@@ -1,11 +1,11 @@
 // The precise step: numbers with 288 binary digits after the point.
 //
-// The series below are off by some 2^-280, and so is what is left of an angle when the multiples of
-// pi/2 are taken from it. No double is nearer to such a multiple than 2^-62, so a sine or cosine is
-// known to 2^-200 of itself, and an arctangent to 2^-150. None lies in the middle between two
-// doubles: the sine, cosine and arctangent of a fraction other than 0 are no fractions. How near
-// one comes is a matter of chance, for the bits behind the 53rd look drawn by lot: of 2^64
-// arguments the nearest should be within 2^-117 or so of itself, and to need 150 is past all
+// The series below are off by about 2^-280, and so is the rest of an angle when the multiples of
+// pi/2 are taken away. No double is nearer to such a multiple than 2^-62, so a sine or cosine is
+// known to a relative 2^-200, and an arctangent to 2^-150. No result lies in the middle between two
+// doubles: the sine, cosine and arctangent of a rational number other than 0 are irrational. How
+// near one comes is a matter of chance, because the bits after the 53rd look random: among 2^64
+// arguments the nearest should be within a relative 2^-117 or so, and a need for 150 is beyond all
 // likelihood.
 #include <bit>
 #include <cmath>
@@ -16,11 +16,11 @@
 namespace orvane {
 namespace {
 
-constexpr int kWords = 10;  // the last before the point, nine behind it
+constexpr int kWords = 10;  // the last before the point, nine after it
 constexpr int kProductWords = 2 * kWords;
-constexpr int kFraction = 288;  // digits behind the point
+constexpr int kFraction = 288;  // digits after the point
 
-// The words with the least weight first. A number below 0 is the complement, as of an int.
+// The words with the least weight first. A number below 0 is kept as its complement, as in an int.
 using Words = std::array<std::uint32_t, kWords>;
 
 struct Fixed {
@@ -49,7 +49,7 @@ Fixed operator-(const Fixed& a, const Fixed& b) { return a + -b; }
 
 bool IsNegative(const Fixed& a) { return a.Word[kWords - 1] >> 31 != 0; }
 
-// Neither below 0.
+// Neither may be below 0.
 Fixed operator*(const Fixed& a, const Fixed& b) {
   std::array<std::uint32_t, kProductWords> product{};
   for (std::size_t i = 0; i < kWords; ++i) {
@@ -77,7 +77,7 @@ Fixed operator/(const Fixed& a, std::uint32_t b) {
   return quotient;
 }
 
-// Exact from 2^-236 on; below 2^31.
+// Exact from 2^-236 on; takes values below 2^31.
 Fixed FixedOf(double value) {
   Fixed fixed;
   for (std::size_t i = kWords; i-- > 0;) {
@@ -88,7 +88,7 @@ Fixed FixedOf(double value) {
   return fixed;
 }
 
-// Above 2^-192.
+// For values above 2^-192.
 double Nearest(const Fixed& a) {
   std::size_t top = kWords - 1;
   while (a.Word[top] == 0) --top;
@@ -100,7 +100,7 @@ double Nearest(const Fixed& a) {
                     32 * (static_cast<int>(top) - 1) - kFraction - zeros + 11);
 }
 
-// a / b to 2^-150 of itself, 50 digits at a time. Each part is a little too small, so that a stays
+// a / b to a relative 2^-150, 50 digits at a time. Each part is a little too small, so that a stays
 // above 0.
 Fixed Quotient(Fixed a, const Fixed& b) {
   Fixed quotient;
@@ -112,7 +112,8 @@ Fixed Quotient(Fixed a, const Fixed& b) {
   return quotient;
 }
 
-// The sine of r by its powers, or the cosine where they begin at 0. r is pi/2 at the most.
+// The sine of r from its power series, or the cosine where the powers begin at 0. r is at most
+// pi/2.
 Fixed Powers(const Fixed& r, std::uint32_t first) {
   const Fixed square = r * r;
   Fixed term = first == 1 ? r : FixedOf(1);
@@ -126,11 +127,11 @@ Fixed Powers(const Fixed& r, std::uint32_t first) {
   return sum;
 }
 
-// An angle as a multiple of pi/2 and what is left to it.
+// An angle as a multiple of pi/2 and the rest.
 struct Reduced {
   int Quarter = 0;  // 0 to 3; whole turns are dropped
   bool Below = false;
-  Fixed Rest;  // pi/4 at the most; to be taken away when Below
+  Fixed Rest;  // at most pi/4; taken away when Below
 };
 
 std::uint32_t TwoOverPiFrom(int digit) {
@@ -142,9 +143,9 @@ std::uint32_t TwoOverPiFrom(int digit) {
 }
 
 // M. H. Payne and R. N. Hanek, Radian reduction for trigonometric functions, ACM SIGNUM Newsletter
-// 18 (1983), 19-24. The angle is a whole number m times a power of two, and only those digits of
-// 2/pi are multiplied by m that give neither whole turns nor less than the last place. Eleven words
-// of them: two digits before the point, 350 behind it, of which m blurs the last 53.
+// 18 (1983), 19-24. The angle is a whole number m times a power of two. Only those digits of 2/pi
+// are multiplied by m that give neither whole turns nor less than the last place: eleven words,
+// with two digits before the point and 350 after it, of which m blurs the last 53.
 Reduced Reduce(double angle) {
   constexpr std::size_t taken = kWords + 1;
   int exponent = 0;
@@ -163,7 +164,7 @@ Reduced Reduce(double angle) {
   }
 
   Reduced reduced;
-  turns[taken - 1] += 1U << 29;  // half of a quarter, so that cutting rounds
+  turns[taken - 1] += 1U << 29;  // half of a quarter, so that cutting off rounds
   reduced.Quarter = static_cast<int>(turns[taken - 1] >> 30);
   Fixed share, half;
   for (std::size_t i = 0; i + 1 < kWords; ++i) {
@@ -186,9 +187,8 @@ double PreciseSine(double angle, int quarters) {
   return (quarter >= 2) != (sine && reduced.Below) ? -size : size;
 }
 
-// As in the quick step, with its result for the guess. That is right to 2^-52, so arctan d is d to
-// 2^-150 of the whole. Above and below the line stands the same multiple of both, so that tangents
-// above 1 fit.
+// As in the quick step, with its result as the guess. That is right to 2^-52, so arctan d is d to
+// 2^-150 of the whole. Numerator and denominator are scaled alike, so that tangents above 1 fit.
 double PreciseArcTangent(double tangent) {
   const double guess = QuickArcTangent(tangent).High;
   int exponent = 0;

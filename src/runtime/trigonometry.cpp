@@ -14,15 +14,15 @@ static_assert(std::numeric_limits<double>::is_iec559 && FLT_EVAL_METHOD == 0,
 namespace orvane {
 namespace {
 
-// pi/2 in pieces. The first two have 43 bits at the most, so that a multiple of them below
-// kQuickAngles is exact; all three together are off by less than 2^-141.
+// pi/2 in pieces. The first two have at most 43 bits, so that a multiple of them below kQuickAngles
+// is exact; all three together are off by less than 2^-141.
 constexpr double kHalfPiFirst = 0x1.921fb54442cp+0;
 constexpr double kHalfPiSecond = 0x1.18469898ccp-44;
 constexpr double kHalfPiThird = 0x1.45c06e0e68948p-86;
 constexpr double kQuartersPerRadian = 0x1.45f306dc9c883p-1;
 constexpr Twofold kHalfPiTwofold = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54};
 
-// 1/n!, of which a double holds n! itself.
+// 1/n!; a double holds n! itself exactly.
 constexpr std::array<Twofold, 22> InverseFactorials() {
   std::array<Twofold, 22> inverse;
   double factorial = 1;
@@ -36,9 +36,9 @@ constexpr std::array<Twofold, 22> InverseFactorials() {
 }
 constexpr std::array<Twofold, 22> kInverseFactorials = InverseFactorials();
 
-// The sine of r by its powers, or the cosine where they begin at 0. r is pi/4 at the most. What is
-// left out is below 2^-77. From the seventh power on they are summed in doubles, which is good to
-// 2^-52 of their sum; and that is below 2^-14 of the whole.
+// The sine of r from its power series, or the cosine where the powers begin at 0. r is at most
+// pi/4. What is left out is below 2^-77. The powers from the seventh on are summed in doubles, to
+// 2^-52 of their sum, and that is below 2^-14 of the whole.
 Twofold Powers(const Twofold& r, int first) {
   const auto coefficient = [](int n) { return kInverseFactorials[static_cast<std::size_t>(n)]; };
   const Twofold minus_square = -(r * r);
@@ -74,9 +74,9 @@ bool Settles(const Twofold& quick) {
   return quick.High + (quick.Low - off) == quick.High + (quick.Low + off);
 }
 
-// Takes the nearest multiple of pi/2 away, the 652nd at the most. What the nth leaves is off by
-// less than n 2^-138; and no double comes nearer to the nth than n 2^-66. So it is good to 2^-72 of
-// itself.
+// Takes away the nearest multiple of pi/2, at most the 652nd. The rest after the nth is off by less
+// than n 2^-138, and no double comes nearer to the nth than n 2^-66. So the rest is accurate to a
+// relative 2^-72.
 Twofold QuickSine(double angle, int quarters) {
   const int nearest = static_cast<int>(angle * kQuartersPerRadian + 0.5);
   const double multiple = nearest;
@@ -89,11 +89,11 @@ Twofold QuickSine(double angle, int quarters) {
 
 // With a guess a at the arctangent of t,
 //   arctan t = a + arctan d,   d = (t cos a - sin a) / (cos a + t sin a).
-// The guess below is right to 0.005, so few powers of d are left, all but the first in doubles:
-// 2^-68 of d, 2^-75 of the whole. Above the line stands an error of 2^-66 of the sine, which is so
-// much of the whole.
+// The guess below is right to 0.005, so few powers of d are needed, all but the first in doubles:
+// 2^-68 of d, 2^-75 of the whole. The numerator has an error of 2^-66 of the sine, which is as much
+// of the whole.
 Twofold QuickArcTangent(double tangent) {
-  const bool steep = tangent > 1;  // then by the angle that is missing to pi/2
+  const bool steep = tangent > 1;  // then through the complement to pi/2
   const Twofold t = steep ? Twofold{1} / Twofold{tangent} : Twofold{tangent};
   const double guess = t.High / (1 + 0.28 * t.High * t.High);
   const Twofold sine = SineOfPowers({guess}), cosine = CosineOfPowers({guess});

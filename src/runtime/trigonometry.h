@@ -1,15 +1,15 @@
 // Sine, cosine and arctangent, correctly rounded: the double that is nearest to the exact value for
-// the double that is given. Compilers, processors and C libraries differ in the last bit of theirs;
-// these are the same bits everywhere.
+// the double that is given. Those of compilers, processors and C libraries differ in the last bit;
+// these give the same bits everywhere.
 #pragma once
 
 namespace orvane {
 
-// Radians. No number for an infinity, or for what is no number.
+// Radians. NaN for an infinity or a NaN.
 double Sine(double x);
 double Cosine(double x);
 
-// Both of one angle: what turns a point.
+// Both for one angle, as turning a point needs them.
 struct Turn {
   double Sine = 0, Cosine = 1;
 };

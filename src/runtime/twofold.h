@@ -1,7 +1,7 @@
 // Numbers of about a hundred bits, each the sum of two doubles that is never added up. What the sum
 // and the product of two doubles lose is a double itself: T. J. Dekker, A floating-point technique
 // for extending the available precision, Numerische Mathematik 18 (1971), 224-242; the sum of any
-// two is D. E. Knuth's. Nothing here may overflow, nor become so small that bits are lost.
+// two is D. E. Knuth's. Nothing here may overflow or become so small that bits are lost.
 #pragma once
 
 namespace orvane {
@@ -37,7 +37,7 @@ constexpr Twofold Product(double a, double b) {
   return {product, ((x.High * y.High - product) + x.High * y.Low + x.Low * y.High) + x.Low * y.Low};
 }
 
-// These lose less than 2^-100: the sum of the larger of the two, the others of the result.
+// These lose less than 2^-100: the sum, of the larger of the two; the others, of the result.
 constexpr Twofold operator+(const Twofold& a, const Twofold& b) {
   const Twofold sum = Sum(a.High, b.High);
   return SumOfLarger(sum.High, sum.Low + (a.Low + b.Low));
