@@ -9,8 +9,8 @@ Window::Window(std::span<const ControlRow> table, std::string_view prefix)
       Prefix(prefix) {}
 
 void Window::Show() {
+  Visible = true;  // ends here where there is no memory for it
   WasShown = true;
-  Visible = true;
   BringToFront();
 }
 

@@ -45,6 +45,32 @@ TEST(NoMemoryForAWindow, IsReportedOnceAndThePictureComesBack) {
   EXPECT_GT(refusals, 10);
 }
 
+// What asks for a window is refused; the toolkit, which is not made to be refused in the midst of
+// its work, has not been begun with.
+TEST(NoMemoryForANewWindow, LeavesNoneHalfMade) {
+  QuietPlatform platform;
+  const auto desk = StartDesk(platform);
+  Skin skin(*desk, platform);
+  for (Window* window : {static_cast<Window*>(&desk->content), static_cast<Window*>(&desk->author),
+                         static_cast<Window*>(&desk->main), static_cast<Window*>(&desk->plot)}) {
+    const qsizetype windows = QApplication::topLevelWidgets().size();
+    {
+      const MemoryRunsOut none(1);
+      EXPECT_THROW(window->Show(), std::bad_alloc) << window->Name;
+      EXPECT_TRUE(MemoryRunsOut::HasRefused());
+    }
+    EXPECT_FALSE(window->Visible) << window->Name;
+    EXPECT_EQ(QApplication::topLevelWidgets().size(), windows) << window->Name;
+    window->Caption = "another";
+
+    window->Show();
+    EXPECT_TRUE(window->Visible) << window->Name;
+    EXPECT_EQ(skin.WindowOf(*window).windowTitle(), "another");
+    EXPECT_TRUE(skin.WindowOf(*window).isVisible()) << window->Name;
+    window->Hide();
+  }
+}
+
 }  // namespace
 }  // namespace orvane
 

@@ -1,5 +1,7 @@
 // The desktop program.
 #include <memory>
+#include <new>
+#include <string>
 
 #include <QApplication>
 #include <QTimer>
@@ -8,6 +10,7 @@
 #include "desktop/outside/qt_platform.h"
 #include "desktop/programs/application.h"
 #include "desktop/windows/skin.h"
+#include "runtime/no_memory.h"
 #include "shell/start_up.h"
 
 namespace {
@@ -27,7 +30,12 @@ int main(int count, char** words) {
   orvane::QtPlatform platform;
   const auto desk = orvane::StartDesk(platform);
   orvane::Skin skin(*desk, platform);
-  skin.ShowWindows();
+  try {
+    skin.ShowWindows();
+  } catch (const std::bad_alloc&) {
+    platform.FailureBox(std::string("Orvane could not be started: ") + orvane::kNoMemory + ".");
+    return 1;
+  }
   QTimer::singleShot(kIconAfter, [] { QApplication::setWindowIcon(orvane::ProgramIcon()); });
   return QApplication::exec();
 }

@@ -1,17 +1,34 @@
 #include "desktop/windows/skin.h"
 
 #include <algorithm>
+#include <new>
+#include <utility>
 
 #include "desk/actions.h"
 #include "desktop/reader/accessible_widget.h"
 #include "desktop/widgets/control_view.h"
 #include "desktop/windows/key_sheet_window.h"
 #include "desktop/windows/window_widget.h"
+#include "runtime/no_memory.h"
 
 namespace orvane {
 namespace {
 
 constexpr int kBeat = 8;  // milliseconds; no screen in a classroom shows more pictures than that
+
+// Bytes, for a window as large as a screen of 3840 by 2160 and all that stands in it.
+constexpr std::size_t kRoomForAWindow = std::size_t{40} * 1024 * 1024;
+
+// The toolkit does not get over it when memory runs out in the midst of its work, so there has to
+// be room before a window is begun.
+void AskForRoom() { ::operator delete(::operator new(kRoomForAWindow)); }
+
+std::unique_ptr<KeySheetWindow> MadeKeySheet(Sight& sight) {
+  AskForRoom();
+  auto sheet = std::make_unique<KeySheetWindow>();
+  GiveSightItsKey(sight, *sheet, *sheet);
+  return sheet;
+}
 
 }  // namespace
 
@@ -37,10 +54,30 @@ Skin::~Skin() {
 void Skin::Changed(Control& control, Aspect aspect) {
   if (auto* timer = dynamic_cast<Timer*>(&control)) return SetTimer(*timer);
   const bool comes = &control == &control.Owner && aspect == Aspect::Visible && control.Visible;
-  if (comes) WindowOf(control.Owner);
-  const auto window = windows_.find(&control.Owner);
-  if (window != windows_.end()) window->second->Take(control, aspect);
+  if (comes) {
+    Come(control.Owner);
+  } else if (const auto window = windows_.find(&control.Owner); window != windows_.end()) {
+    window->second->Take(control, aspect);
+    if (&control == &control.Owner && aspect == Aspect::Visible) gone_ = &control.Owner;
+  }
   words_.Soon(control.Owner);
+}
+
+// One for which there is no memory stays away, and whoever asked for it hears why. Another has
+// often gone to make place for it, and comes back: without any window nobody could try again.
+void Skin::Come(Window& window) {
+  const bool is_new = !windows_.contains(&window);
+  Window* const gone = gone_;
+  try {
+    WindowOf(window).Take(window, Aspect::Visible);
+  } catch (...) {
+    if (is_new) windows_.erase(&window);
+    window.Visible = false;
+    const bool one_shows =
+        std::ranges::any_of(desk.windows, [](const Window* other) { return other->Visible.Get(); });
+    if (!one_shows && gone != nullptr) gone->Show();
+    throw;
+  }
 }
 
 void Skin::ShowWindows() {
@@ -50,12 +87,13 @@ void Skin::ShowWindows() {
 }
 
 WindowWidget& Skin::WindowOf(Window& window) {
-  std::unique_ptr<WindowWidget>& widget = windows_[&window];
-  if (widget != nullptr) return *widget;
-  widget = std::make_unique<WindowWidget>(*this, window);
-  const ControlView* picture = widget->ViewOf(desk.main.Picture1);
-  GiveSightItsKey(sight, *widget, picture == nullptr ? *widget : picture->widget);
-  return *widget;
+  const auto known = windows_.find(&window);
+  if (known != windows_.end()) return *known->second;
+  AskForRoom();
+  auto made = std::make_unique<WindowWidget>(*this, window);
+  const ControlView* picture = made->ViewOf(desk.main.Picture1);
+  GiveSightItsKey(sight, *made, picture == nullptr ? *made : picture->widget);
+  return *windows_.emplace(&window, std::move(made)).first->second;
 }
 
 QWidget* Skin::WidgetOf(const Control& control) {
@@ -64,9 +102,10 @@ QWidget* Skin::WidgetOf(const Control& control) {
 }
 
 void Skin::ShowKeySheet() {
-  if (sheet_ == nullptr) {
-    sheet_ = std::make_unique<KeySheetWindow>();
-    GiveSightItsKey(sight, *sheet_, *sheet_);
+  try {
+    if (sheet_ == nullptr) sheet_ = MadeKeySheet(sight);
+  } catch (const std::bad_alloc&) {
+    return platform.FailureBox(std::string("The keys could not be shown: ") + kNoMemory + ".");
   }
   sheet_->Turn();
 }

@@ -49,11 +49,13 @@ class Skin : public ControlWatcher {
   void RepaintSoon(QWidget& picture);
 
  private:
+  void Come(Window& window);
   void SetTimer(Timer& timer);
   void TickOf(Timer& timer);
   void RepaintNow();
 
   std::unordered_map<const Window*, std::unique_ptr<WindowWidget>> windows_;
+  Window* gone_ = nullptr;  // the one that was hidden last
   std::unordered_map<const Timer*, std::unique_ptr<Ticker>> tickers_;
   std::unique_ptr<KeySheetWindow> sheet_;  // made when it is first asked for
   AccessibleWords words_{*this};
