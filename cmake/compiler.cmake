@@ -15,7 +15,7 @@ target_compile_options(orvane_options INTERFACE
 if(NOT "${CMAKE_CXX_COMPILER_ID} ${CMAKE_CXX_COMPILER_VERSION}" MATCHES "^GNU (12|14)\\.")
   set(CMAKE_COMPILE_WARNING_AS_ERROR OFF)
 endif()
-target_compile_options(orvane_options INTERFACE -Wno-restrict)
+target_compile_options(orvane_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
 # Checked code looks to the compiler as if variables were used unset; the warning has no meaning there.
 if(ORVANE_SANITIZE)

@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-// Vectors of eight are passed only between functions of this file, which are all inlined.
-#pragma GCC diagnostic ignored "-Wpsabi"
-
 namespace orvane {
 namespace {
 

@@ -6,10 +6,12 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <iostream>
+#include <sstream>
 
 #include "random/desk/apart.h"
 #include "random/desk/life.h"
 #include "random/desk/moves.h"
+#include "random/desk/script.h"
 #include "random/desk/shrink.h"
 
 namespace orvane {
@@ -212,6 +214,33 @@ TEST(ARandomDesk, GoesOnWhereTheZoomRunsOutOfNumbers) {
       play(line);
     }
   }
+}
+
+// Two hundred actions, each read by a replay, and among all of them every action that one knows.
+TEST(ARandomScript, IsReadToItsEndByAReplay) {
+  std::map<std::string, int> actions;
+  int full = 0;
+  for (std::uint64_t seed = 1; seed <= 60; ++seed) {
+    std::stringstream script, errors;
+    for (const std::string& line : RandomScript(seed, 200)) script << line << "\n";
+    const std::string text = script.str();
+    for (std::string line; std::getline(script, line);) ++actions[line.substr(0, line.find(' '))];
+    script.clear();
+    script.str(text);
+    std::ostringstream printed;
+    ASSERT_EQ(PlayScript(script, printed, errors, false), 0) << seed << ": " << errors.str();
+    if (!printed.str().ends_with("end\n")) ++full;
+  }
+  EXPECT_GT(full, 40);
+  for (const char* action :
+       {"click",      "doubleclick", "select", "press",   "move",  "release", "bar",
+        "drag",       "drop",        "type",   "key",     "tick",  "answer",  "sound-fails",
+        "no-printer", "printer",     "enter",  "restart", "force", "dump"}) {
+    EXPECT_GT(actions[action], 0) << action;
+  }
+  EXPECT_FALSE(actions.contains("#look"));
+  EXPECT_EQ(RandomScript(7, 200), RandomScript(7, 200));
+  EXPECT_NE(RandomScript(7, 200), RandomScript(8, 200));
 }
 
 TEST(AShrunkScript, KeepsOnlyWhatItNeeds) {

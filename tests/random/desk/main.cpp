@@ -10,6 +10,7 @@
 #include "random/desk/apart.h"
 #include "random/desk/life.h"
 #include "random/desk/numbers.h"
+#include "random/desk/script.h"
 #include "random/desk/shrink.h"
 #include "random/desk/trial.h"
 
@@ -17,23 +18,27 @@ namespace orvane {
 namespace {
 
 constexpr std::string_view kUsage =
-    "usage: orvane-random-desk [--actions N] [--seed S] [--life N] [--play SCRIPT]\n"
+    "usage: orvane-random-desk [--actions N] [--seed S] [--life N] [--play FILE] [--script N]\n"
     "  --actions  play at least so many (100000)\n"
     "  --seed     of the first life; each has the next (1)\n"
     "  --life     actions at one desk at the most (3000)\n"
-    "  --play     play that script instead, with the checks behind each line\n";
+    "  --play     play that script instead, with the checks behind each line\n"
+    "  --script   print a script for orvane-replay instead, of so many actions\n";
 constexpr int kTries = 600;  // to shorten a script
 
 struct Options {
   long Actions = 100000;
   long Seed = 1;
   long Life = 3000;
+  long Script = 0;
   std::string Play;
 };
 
 bool ReadOptions(int argc, char** argv, Options& options) {
-  const NumberOption numbers[] = {
-      {"--actions", &options.Actions}, {"--seed", &options.Seed}, {"--life", &options.Life}};
+  const NumberOption numbers[] = {{"--actions", &options.Actions},
+                                  {"--seed", &options.Seed},
+                                  {"--life", &options.Life},
+                                  {"--script", &options.Script}};
   for (int i = 1; i + 1 < argc; i += 2) {
     const std::string_view name = argv[i], value = argv[i + 1];
     if (name == "--play") {
@@ -101,6 +106,14 @@ int PlayScriptFile(const std::string& file) {
   return trial.IsWrong ? 1 : 0;
 }
 
+int PrintScript(const Options& options) {
+  const auto seed = static_cast<std::uint64_t>(options.Seed);
+  for (const std::string& line : RandomScript(seed, static_cast<int>(options.Script))) {
+    std::cout << line << "\n";
+  }
+  return std::cout.flush() ? 0 : 1;
+}
+
 }  // namespace
 }  // namespace orvane
 
@@ -110,6 +123,7 @@ int main(int argc, char** argv) {
     std::cerr << orvane::kUsage;
     return 2;
   }
+  if (options.Script > 0) return orvane::PrintScript(options);
   return options.Play.empty() ? orvane::PlayAtRandom(options)
                               : orvane::PlayScriptFile(options.Play);
 }
