@@ -51,6 +51,11 @@ struct Look {
   friend bool operator==(const Look&, const Look&) = default;
 };
 
+// What a scroll bar may be set to, how far its arrows and its track move it, and where it starts.
+struct BarRange {
+  int Min = 0, Max = 0, SmallStep = 1, LargeStep = 1, Start = 0;
+};
+
 // A row of a window's table: what a control is when the window is made. An element of an array has
 // its index in its name, "X_Tag(1)".
 struct ControlRow {
@@ -66,6 +71,8 @@ struct ControlRow {
   std::string_view Spoken{};  // name for a screen reader where the caption gives none
   SpokenRole Role{};          // what it is to a screen reader where the kind does not say
   int TabStop = 0;            // place in the tab order, from 1; 0 takes no focus
+  BarRange Range{};           // of a scroll bar
+  int Interval = 0;           // of a timer, milliseconds
 };
 
 class Control {

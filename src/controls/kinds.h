@@ -69,8 +69,8 @@ class TextBox : public Control {
 
 class Timer : public Control {
  public:
-  Timer(Window& window, std::string_view name, int interval)
-      : Control(window, name), Interval(*this, interval) {}
+  Timer(Window& window, std::string_view name)
+      : Control(window, name), Interval(*this, Row.Interval) {}
 
   Watched<int, Aspect::Interval> Interval;  // milliseconds
 };

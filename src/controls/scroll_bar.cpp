@@ -4,8 +4,8 @@
 
 namespace orvane {
 
-ScrollBar::ScrollBar(Window& window, std::string_view name, BarRange range)
-    : Control(window, name), Range(range), Value(*this, range.Start) {}
+ScrollBar::ScrollBar(Window& window, std::string_view name)
+    : Control(window, name), Range(Row.Range), Value(*this, Range.Start) {}
 
 void ScrollBar::SetValue(int value) {
   if (Value == value) return;

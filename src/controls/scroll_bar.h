@@ -5,15 +5,11 @@
 
 namespace orvane {
 
-struct BarRange {
-  int Min = 0, Max = 0, SmallStep = 1, LargeStep = 1, Start = 0;
-};
-
 class ScrollBar : public Control {
  public:
-  ScrollBar(Window& window, std::string_view name, BarRange range);
+  ScrollBar(Window& window, std::string_view name);
 
-  const BarRange Range;
+  const BarRange Range;  // the row's
   Watched<int, Aspect::Value> Value;
 
   // Sets the value from code or at the end of a step. When it changes, the change event runs here,

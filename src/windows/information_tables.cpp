@@ -27,7 +27,7 @@ constexpr auto kFrontRows = std::to_array<ControlRow>({
     {.Name = "By",       .Kind = Panel, .Caption = "By", .At = {360, 4290, 300, 330}, .Tip = "Read who wrote Orvane"},
     {.Name = "Author",   .Kind = Link,  .Caption = "The author", .At = {660, 4290, 2400, 330}, .Tip = "Show who wrote Orvane", .TabStop = 2},
     {.Name = "Get_in",   .Kind = GoOn,  .At = {6375, 4230, 450, 450}, .Tip = "Go on", .Spoken = "Go on", .TabStop = 1},
-    {.Name = "Timer1",   .Kind = Timer, .Spoken = "Moving pictures"},
+    {.Name = "Timer1",   .Kind = Timer, .Spoken = "Moving pictures", .Interval = 150},
 
     // The frames of the two animations, never shown themselves.
     {.Name = "Pro_Image(0)", .Kind = ImageBox, .At = {0, 0, 2460, 2460}, .Visible = false},

@@ -7,8 +7,7 @@
 
 namespace orvane {
 
-inline constexpr int kFrontFrames = 10;     // of each animation
-inline constexpr int kFrontInterval = 150;  // milliseconds for each frame
+inline constexpr int kFrontFrames = 10;  // of each animation
 
 struct FrontWindow : Window {
   FrontWindow() : Window(FrontTable(), "Orvane_Front.") {}
@@ -21,7 +20,7 @@ struct FrontWindow : Window {
   Panel Panel3D4{*this, "Panel3D4"}, By{*this, "By"};
   Button Author{*this, "Author"};
   Button Get_in{*this, "Get_in"};
-  Timer Timer1{*this, "Timer1", kFrontInterval};
+  Timer Timer1{*this, "Timer1"};
 
   // The frames, never shown themselves.
   ControlArray<ImageBox, kFrontFrames> Pro_Image{*this, "Pro_Image"};

@@ -40,13 +40,13 @@ struct MainWindow : Window {
   Button Bt3_Label{*this, "Bt3_Label"}, Bt3_HBD{*this, "Bt3_HBD"};
   Ornament Line2{*this, "Line2"};
   Panel P_Auto_Rotate{*this, "P_Auto_Rotate"};
-  ScrollBar Rt_speed{*this, "Rt_speed", {1, 400, 10, 30, 200}};
+  ScrollBar Rt_speed{*this, "Rt_speed"};
 
   // Left.
   ControlArray<Panel, 3> X_Tag{*this, "X_Tag"};
-  ScrollBar VScroll1{*this, "VScroll1", {0, 360, 10, 36, 1}};
+  ScrollBar VScroll1{*this, "VScroll1"};
   Label Label2{*this, "Label2"};
-  ScrollBar Y_TRANS{*this, "Y_TRANS", {-80, 80, 5, 10, 0}};
+  ScrollBar Y_TRANS{*this, "Y_TRANS"};
   Ornament Line6{*this, "Line6"};
   ControlArray<Button, 6> Sz_Balls{*this, "Sz_Balls"};
   Button Bt3_Reset{*this, "Bt3_Reset"};
@@ -65,9 +65,9 @@ struct MainWindow : Window {
 
   // Below the picture.
   Label Label1{*this, "Label1"};
-  ScrollBar X_TRANS{*this, "X_TRANS", {-80, 80, 5, 10, 0}};
+  ScrollBar X_TRANS{*this, "X_TRANS"};
   Label Label3{*this, "Label3"};
-  ScrollBar ZoomBar{*this, "ZoomBar", {-100, 100, 5, 5, 0}};
+  ScrollBar ZoomBar{*this, "ZoomBar"};
 
   // Bottom.
   Button Bt3_Sterio{*this, "Bt3_Sterio"}, R_G_Stereo{*this, "R_G_Stereo"};
@@ -97,7 +97,7 @@ struct MainWindow : Window {
   FileList Drive1{*this, "Drive1"}, Dir1{*this, "Dir1"}, File1{*this, "File1"};
   ControlArray<Panel, kSwatchCount> P_Clr{*this, "P_Clr"};
 
-  Timer Timer1{*this, "Timer1", 200};
+  Timer Timer1{*this, "Timer1"};
 };
 
 }  // namespace orvane

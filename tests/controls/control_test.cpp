@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "controls/every_column.h"
 #include "controls/small_window.h"
 
 namespace orvane {
@@ -19,6 +20,27 @@ TEST(Control, BeginsAsItsRowSays) {
   EXPECT_EQ(window.Frame.Parent, nullptr);
   EXPECT_EQ(window.Field.Text, "0");
   EXPECT_EQ(window.Caption, "A small window");
+}
+
+TEST(Control, ReadsEachColumnOfItsRow) {
+  MadeUpWindow window;
+  EXPECT_EQ(window.Caption, "Made up");
+  EXPECT_EQ(window.Third.Parent, &window.Holder);
+  EXPECT_EQ(window.Third.Caption, "&Odd words");
+  EXPECT_EQ(window.Third.At.Get(), (Place{75, 90, 1050, 300}));
+  EXPECT_EQ(window.Sunk.Style.Get(), (Look{1, 4}));
+  EXPECT_FALSE(window.Hidden.Visible);
+  EXPECT_FALSE(window.Second.Enabled);
+  EXPECT_EQ(SpokenName(window.Bar), "An odd bar");
+  EXPECT_EQ(RoleOf(window.Word), SpokenRole::Heading);
+  EXPECT_EQ(window.Bar.Value, 5);
+  window.Bar.StepTo(-1000);
+  EXPECT_EQ(window.Bar.Value, -7);
+  window.Bar.StepTo(1000);
+  EXPECT_EQ(window.Bar.Value, 90);
+  EXPECT_EQ(window.Bar.Range.SmallStep, 3);
+  EXPECT_EQ(window.Bar.Range.LargeStep, 11);
+  EXPECT_EQ(window.Clock.Interval, 37);
 }
 
 TEST(Control, WithoutARowIsRefusedWhenTheWindowIsMade) {

@@ -17,7 +17,7 @@ inline constexpr auto kSmallTable = std::to_array<ControlRow>({
     {.Name = "Leaf", .Kind = ControlKind::MenuEntry, .Parent = "Sub", .Caption = "&Leaf"},
     {.Name = "Frame", .Kind = ControlKind::Panel, .At = {15, 30, 45, 60}},
     {.Name = "Key", .Kind = ControlKind::Button, .Parent = "Frame", .Caption = "Key"},
-    {.Name = "Bar", .Kind = ControlKind::ScrollBar},
+    {.Name = "Bar", .Kind = ControlKind::ScrollBar, .Range = {-80, 80, 5, 10, 0}},
     {.Name = "Rows", .Kind = ControlKind::List},
     {.Name = "Image", .Kind = ControlKind::ImageBox},
     {.Name = "Field", .Kind = ControlKind::TextBox, .Caption = "0"},
@@ -31,7 +31,7 @@ struct SmallWindow : Window {
   MenuEntry Top{*this, "Top"}, Sub{*this, "Sub"}, Leaf{*this, "Leaf"};
   Panel Frame{*this, "Frame"};
   Button Key{*this, "Key"};
-  ScrollBar Bar{*this, "Bar", {-80, 80, 5, 10, 0}};
+  ScrollBar Bar{*this, "Bar"};
   List Rows{*this, "Rows"};
   ImageBox Image{*this, "Image"};
   TextBox Field{*this, "Field"};
