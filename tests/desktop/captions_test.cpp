@@ -3,8 +3,8 @@
 
 #include <QFontMetricsF>
 
-#include "desktop/look/dress.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
+#include "look/dress.h"
 #include "window_fixture.h"
 
 namespace orvane {
@@ -45,17 +45,17 @@ double Width(const QString& text, Type type, QFont::HintingPreference hinting) {
 
 void ExpectFits(const Control& control, std::string_view caption) {
   const Dress& dress = DressOf(control);
-  if (dress.Shape == Cut::Tab) return;  // its caption appears in a flyout of its own width
+  if (dress.Shape == DressShape::Tab) return;  // its caption appears in a flyout of its own width
   // The heaviest weight that the text style can give a bevelled control.
   const bool heavy = control.Name == "X_Tag" || control.Name == "P_Auto_Rotate";
-  const Type type = dress.Shape == Cut::Bevel ? Type{11, heavy ? 600 : 500} : dress.Letters;
+  const Type type = dress.Shape == DressShape::Bevel ? Type{11, heavy ? 600 : 500} : dress.Letters;
   QString text = QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size()));
   if (dress.Align == Side::Centre) text = text.trimmed();
   const Place at = control.At;
   const int room = (dress.Upwards ? at.Height : at.Width) / TwipsPerPixel;
   // The edge at either side leaves no room for letters.
   const double inner =
-      room - dress.TextLeft - dress.TextRight - (dress.Shape == Cut::Bevel ? 2 : 0);
+      room - dress.TextLeft - dress.TextRight - (dress.Shape == DressShape::Bevel ? 2 : 0);
   // The turned label has two pixels of bare background at both ends; these are its pixel to spare.
   const double spare = dress.Upwards ? 0 : 1;
   for (const auto hinting :

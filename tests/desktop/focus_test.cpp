@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 #include <vector>
 
-#include "desktop/look/dress.h"
+#include "look/dress.h"
 #include "window_fixture.h"
 
 namespace orvane {
@@ -67,7 +67,7 @@ TEST(Focus, TheRingIsVisibleAtEveryStopAndNowhereElse) {
     }
 
     QRect own = work.ViewOf(*stop).Stand().Face;
-    if (DressOf(*stop).Shape == Cut::Tab)
+    if (DressOf(*stop).Shape == DressShape::Tab)
       own = work.WidgetOf(*stop).geometry().united(own).adjusted(-70, -5, 0, 5);
     EXPECT_FALSE(changed.isEmpty()) << stop->FullName();
     EXPECT_TRUE(own.contains(changed)) << stop->FullName();

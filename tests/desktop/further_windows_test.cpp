@@ -3,6 +3,7 @@
 
 #include <QScreen>
 
+#include "desktop/look/fonts.h"
 #include "desktop/look/icon.h"
 #include "desktop/widgets/plot_label.h"
 #include "desktop/widgets/reading_text.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 #include "desktop/widgets/row_list.h"
 #include "draw/elements.h"
 #include "window_fixture.h"

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "desktop/look/dress.h"
 #include "desktop/windows/menu_strip.h"
+#include "look/dress.h"
 #include "window_fixture.h"
 
 namespace orvane {
@@ -30,7 +30,7 @@ TEST(Places, NoTwoControlsOfOneContainerOverlap) {
 
 TEST(Places, NoControlLeavesTheDeskOrItsContainer) {
   WindowAtWork work;
-  const QRect desk = work.window.scale.Device(Place{0, 0, 8505, 7275});
+  const QRect desk = RectOf(work.window.scale.Device(Place{0, 0, 8505, 7275}));
 
   for (const Control* control : work.main.Controls) {
     if (work.window.ViewOf(*control) == nullptr) continue;

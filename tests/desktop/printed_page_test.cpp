@@ -166,7 +166,7 @@ TEST_F(PrintedPage, OfThePlotIsPaintedInThePixelsOfThePaper) {
       at.Left += above->At.Get().Left;
       at.Top += above->At.Get().Top;
     }
-    const QRect face = thrice.Device(at);
+    const QRect face = RectOf(thrice.Device(at));
     const QImage drawn = RasterOf(*area.Image(), face.size());
     const QRect inner = drawn.rect().adjusted(3, 3, -3, -3);  // without the area's edge
     EXPECT_EQ(paper.copy(inner.translated(face.topLeft())), drawn.copy(inner)) << area.FullName();

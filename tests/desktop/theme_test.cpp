@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QPalette>
 
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
+#include "look/palette.h"
 #include "window_fixture.h"
 
 namespace orvane {

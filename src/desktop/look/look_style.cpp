@@ -8,19 +8,15 @@
 #include <QStyleOptionMenuItem>
 #include <QToolTip>
 
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
+#include "look/measures.h"
+#include "look/palette.h"
 
 namespace orvane {
 namespace {
 
+using namespace measures;
 using namespace palette;
-
-// Pixels at 100 per cent.
-constexpr double kStripHeight = 20, kStripPad = 7;
-constexpr double kEntryHeight = 22, kEntryPad = 14, kHairlineHeight = 9;
-constexpr int kMenuPad = 4, kTipPad = 6, kTipCorner = 4, kTipDelay = 600;
-constexpr Type kMenuType{11, 500}, kTipType{11, 400};
 
 QPalette OwnPalette() {
   QPalette colours;
@@ -126,7 +122,7 @@ void DressApplication(QApplication& application) {
   LoadType();
   QApplication::setStyle(new LookStyle);
   QApplication::setPalette(OwnPalette());
-  application.setFont(FontOf({11, 500}));
+  application.setFont(FontOf(kPlainType));
   SizeTips(1);
   QToolTip::setPalette(OwnPalette());
 }

@@ -9,10 +9,10 @@
 #include <QStandardPaths>
 
 #include "controls/surface.h"
-#include "desktop/look/palette.h"
 #include "desktop/widgets/control_view.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/palette.h"
 #include "output/atomic_file.h"
 #include "output/picture_gif.h"
 #include "runtime/failure.h"

@@ -7,10 +7,11 @@
 #include <QPrinterInfo>
 
 #include "controls/kinds.h"
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/page_captions.h"
+#include "look/palette.h"
 #include "runtime/no_memory.h"
 #include "windows/print_page.h"
 
@@ -19,23 +20,6 @@ namespace {
 
 // Finer pixels are not seen, and cost four times the memory at twice the density.
 constexpr int kMostDots = 600;
-
-constexpr int kRightMargin = 300;  // twips: how near to the page's edge a name may grow
-
-// How the page's captions are set, in pixels of the page at 100 per cent.
-struct CaptionRow {
-  std::string_view Name;
-  Type Letters;
-  Qt::Alignment Align;
-  bool Grows;  // to the right, with its text
-};
-constexpr CaptionRow kCaptions[] = {
-    {"Mol_Name", {13, 600}, Qt::AlignLeft, true},
-    {"Str_Entm", {13, 600}, Qt::AlignHCenter, false},
-    {"L_Form", {12, 600}, Qt::AlignHCenter, false},
-    {"R_Form", {12, 600}, Qt::AlignHCenter, false},
-    {"AA_name", {12, 600}, Qt::AlignLeft, true},
-};
 
 // The plan of a window on the paper.
 struct Sheet {
@@ -70,16 +54,16 @@ bool Shows(const Control& control) {
 }
 
 void DrawCaption(QPainter& painter, const Sheet& sheet, const Control& control) {
-  for (const CaptionRow& row : kCaptions) {
-    if (row.Name != control.Name) continue;
+  for (const PageCaption& row : PageCaptions()) {
+    if (row.Control != control.Name) continue;
     const QString text = QString::fromStdString(control.Caption);
     Place at = control.At;
     if (row.Grows) {
       const int needed = static_cast<int>(std::ceil(WidthOf(row.Letters, text) * TwipsPerPixel));
-      const int room = control.Owner.Row.At.Width - kRightMargin - at.Left;
+      const int room = control.Owner.Row.At.Width - kPageRightMargin - at.Left;
       at.Width = std::min(std::max(at.Width, needed), room);
     }
-    DrawLine(painter, sheet.On(at), row.Align, row.Letters, palette::kInk,
+    DrawLine(painter, sheet.On(at), AlignmentOf(row.Align), row.Letters, palette::kInk,
              sheet.Twip * TwipsPerPixel, text);
   }
 }

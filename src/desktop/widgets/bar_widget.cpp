@@ -6,16 +6,15 @@
 #include <QSignalBlocker>
 
 #include "desk/actions.h"
-#include "desktop/look/palette.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/measures.h"
+#include "look/palette.h"
 
 namespace orvane {
 namespace {
 
-constexpr double kThumbShare = 0.16, kThumbLeast = 22;  // of the way; pixels
-constexpr double kThumbIn = 3;                          // pixels from the bar's long edges
-constexpr int kFirstRepeat = 400, kNextRepeat = 60;     // milliseconds
+using namespace measures;
 
 }  // namespace
 

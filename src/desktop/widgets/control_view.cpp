@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "desk/actions.h"
-#include "desktop/look/palette.h"
 #include "desktop/reader/accessible_widget.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/palette.h"
 #include "narration/spoken_words.h"
 
 namespace orvane {

@@ -6,17 +6,14 @@
 #include <QStorageInfo>
 
 #include "desk/actions.h"
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/measures.h"
+#include "look/palette.h"
 
 namespace orvane {
 namespace {
-
-// There is room in the chooser, and names of files are read more slowly.
-constexpr RowMeasures kWide{
-    .Height = 17, .FirstTop = 3, .TextLeft = 8, .Inset = 3, .Letters = {11, 500}};
 
 QString PathOf(const FileList& list) { return QString::fromStdString(list.Path); }
 
@@ -110,7 +107,7 @@ FolderRows::FolderRows(WindowWidget& owner, FileList& shown, QWidget& parent)
     : RowList(owner, shown, parent), list_(shown) {
   has_keys_ = joined_ = false;
   edge_ = palette::kEdge;
-  measures_ = kWide;
+  measures_ = measures::kWideRows;
 }
 
 void FolderRows::Take(Aspect aspect) {

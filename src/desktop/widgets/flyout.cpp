@@ -2,16 +2,16 @@
 
 #include <cmath>
 
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 #include "desktop/widgets/control_view.h"
 #include "desktop/windows/window_widget.h"
+#include "look/measures.h"
+#include "look/palette.h"
 
 namespace orvane {
 namespace {
 
-constexpr double kPad = 6, kPadRight = 7, kGap = 8, kShadow = 4;  // pixels
-constexpr Type kKeyType{11, 600}, kRestType{11, 400};
+using namespace measures;
 
 }  // namespace
 
@@ -26,12 +26,13 @@ void Flyout::ShowRow(const void* owner, const QRect& row, const QString& key, co
   key_ = key;
   rest_ = rest;
   text_ = key + u' ' + rest;
-  const double width = kPad + kPadRight + WidthOf(kKeyType, key) + kGap + WidthOf(kRestType, rest);
+  const double width = kFlyoutPad + kFlyoutPadRight + WidthOf(kKeyType, key) + kFlyoutGap +
+                       WidthOf(kFlyoutType, rest);
   const Scale& scale = window_.scale;
   const int wide = static_cast<int>(std::ceil(width * scale.Unit()));
   const int right = row.left() + row.width();
   const QRect face(right - wide, row.top(), wide, row.height());
-  const int out = scale.Device(kShadow);
+  const int out = scale.Device(kFlyoutShadow);
   const QRect all = face.adjusted(-out, -out, out, out);
   const auto low = [&](int v) { return static_cast<int>(std::floor(v / scale.Ratio)); };
   const QPoint first(low(all.left()), low(all.top()));
@@ -51,12 +52,12 @@ void Flyout::paintEvent(QPaintEvent*) {
   EnterDevicePixels(painter, window_.scale, spot_);
   const double unit = window_.scale.Unit();
   const QRect face(QPoint(0, 0), spot_.Face.size());
-  PaintShadow(painter, face, 3 * unit, window_.scale.Device(kShadow));
+  PaintShadow(painter, face, 3 * unit, window_.scale.Device(kFlyoutShadow));
   PaintPlate(painter, face, palette::kAccent, palette::kNone, 3 * unit, 0);
-  QRectF box = QRectF(face).adjusted(kPad * unit, 0, 0, 0);
+  QRectF box = QRectF(face).adjusted(kFlyoutPad * unit, 0, 0, 0);
   DrawLine(painter, box, Qt::AlignLeft, kKeyType, palette::kFace, unit, key_);
-  box.adjust((WidthOf(kKeyType, key_) + kGap) * unit, 0, 0, 0);
-  DrawLine(painter, box, Qt::AlignLeft, kRestType, palette::kFace, unit, rest_);
+  box.adjust((WidthOf(kKeyType, key_) + kFlyoutGap) * unit, 0, 0, 0);
+  DrawLine(painter, box, Qt::AlignLeft, kFlyoutType, palette::kFace, unit, rest_);
 }
 
 }  // namespace orvane

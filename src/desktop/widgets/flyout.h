@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-#include "desktop/look/scale.h"
+#include "desktop/look/spot.h"
 
 namespace orvane {
 

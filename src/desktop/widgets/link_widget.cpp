@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "desktop/look/fonts.h"
 #include "desktop/windows/window_widget.h"
 
 namespace orvane {

@@ -8,10 +8,10 @@
 #include "controls/kinds.h"
 #include "controls/surface.h"
 #include "desk/actions.h"
-#include "desktop/look/palette.h"
 #include "desktop/widgets/plate.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/palette.h"
 #include "runtime/failure.h"
 #include "runtime/no_memory.h"
 

@@ -6,19 +6,19 @@
 #include <QKeyEvent>
 
 #include "desk/actions.h"
+#include "desktop/look/fonts.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/measures.h"
+#include "look/plate_look.h"
 
 namespace orvane {
 namespace {
 
+using namespace measures;
 using namespace palette;
 
-constexpr double kShadow = 6, kSwatchRing = 3;  // pixels round the face
-
 QString CaptionOf(const Control& control) { return QString::fromStdString(control.Caption); }
-
-QRgb InkOf(int text_style) { return text_style == 4 ? kDeep : text_style == 3 ? kInk2 : kInk; }
 
 }  // namespace
 
@@ -60,17 +60,17 @@ void Plate::Take(Aspect aspect) {
 }
 
 double Plate::Outset() const {
-  return dress_.Floats ? kShadow : dress_.Shape == Cut::Swatch ? kSwatchRing : 0;
+  return dress_.Floats ? kPanelShadow : dress_.Shape == DressShape::Swatch ? kSwatchRing : 0;
 }
 
 void Plate::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect face = EnterPixels(painter);
   switch (dress_.Shape) {
-    case Cut::Bevel:
+    case DressShape::Bevel:
       PaintBevel(painter, face);
       break;
-    case Cut::Swatch:
+    case DressShape::Swatch:
       PaintSwatch(painter, face);
       break;
     default:
@@ -82,49 +82,31 @@ void Plate::paintEvent(QPaintEvent*) {
 void Plate::PaintBevel(QPainter& painter, const QRect& face) {
   const double corner = dress_.Corner * Unit();
   const int edge = host.scale.Edge();
-  Look look = control.Style;
-  QRgb ink = InkOf(look.TextStyle);
-  if (control.Row.Kind == ControlKind::Toggle && CaptionSaysOn(control.Caption.Get())) {
-    look.Bevel = 1;
-    ink = kDeep;
-  }
-  if (dress_.LooksPressed) {
-    look.Bevel = 1;
-    ink = kDeep;
-  }
-  const bool heavy = control.Style.Get().TextStyle == 4 || dress_.LooksPressed;
-  const Type letters{11, heavy ? 600 : 500};
-  if (!isEnabled()) {
+  const BevelLook look =
+      BevelLookOf(control, dress_, {.Off = !isEnabled(), .Under = underMouse(), .Held = IsHeld()});
+  if (look.Edge == kNone) {
     const double in = edge / 2.0;  // of an edge that is not there
-    PaintPlate(painter, QRectF(face).adjusted(in, in, -in, -in), kDisabledFace, kNone, corner,
-               edge);
-    PaintCaption(painter, face, kDisabled, letters);
+    PaintPlate(painter, QRectF(face).adjusted(in, in, -in, -in), look.Face, kNone, corner, edge);
+    PaintCaption(painter, face, look.Ink, look.Letters);
     return;
   }
-  const bool hover = underMouse() || IsHeld();
-  const QRgb fill = IsHeld()          ? kPress
-                    : look.Bevel == 1 ? kTint
-                    : hover           ? kHover
-                    : look.Bevel == 2 ? kFace
-                                      : kGround;
-  const QRgb line = hover || look.Bevel == 1 ? kAccent : look.Bevel == 2 ? kSoftEdge : kOffEdge;
-  PaintPlate(painter, face, fill, line, corner, edge);
+  PaintPlate(painter, face, look.Face, look.Edge, corner, edge);
   const QRect lower(face.left(), face.bottom() + 1 - edge, face.width(), edge);
-  if (line == kSoftEdge) {
+  if (look.LowerEdge != kNone) {
     painter.save();
     painter.setClipRect(lower);
-    PaintPlate(painter, face, kEdge, kNone, corner, edge);
+    PaintPlate(painter, face, look.LowerEdge, kNone, corner, edge);
     painter.restore();
   }
-  if (look.Bevel == 1 && !HasRing()) {
+  if (look.Sunken && !HasRing()) {
     QColor shade = QColor::fromRgba(kDeep);
-    shade.setAlphaF(0.27F);
+    shade.setAlphaF(kSunkenShade);
     const int in = static_cast<int>(corner);
     painter.fillRect(QRect(face.left() + in, face.top() + edge, face.width() - 2 * in, edge),
                      shade);
   }
   if (HasRing()) PaintRing(painter, face, kAccent, dress_.Corner, Unit(), true);
-  PaintCaption(painter, face, ink, letters);
+  PaintCaption(painter, face, look.Ink, look.Letters);
 }
 
 void Plate::PaintSwatch(QPainter& painter, const QRect& face) {
@@ -132,10 +114,8 @@ void Plate::PaintSwatch(QPainter& painter, const QRect& face) {
   const double corner = dress_.Corner * Unit();
   const int edge = host.scale.Edge();
   // As the picture will show it.
-  const QColor fill(host.skin.sight.Shown(qRgb(Red(colour), Green(colour), Blue(colour))));
-  const auto mixed = [](int part) { return static_cast<int>(part * 0.57); };
-  PaintPlate(painter, face, fill.rgb(),
-             qRgb(mixed(fill.red()), mixed(fill.green()), mixed(fill.blue())), corner, edge);
+  const QRgb fill = host.skin.sight.Shown(qRgb(Red(colour), Green(colour), Blue(colour)));
+  PaintPlate(painter, face, fill, SwatchEdge(fill), corner, edge);
   if (HasRing() || underMouse()) {
     const double out = 2.5 * Unit();
     PaintRing(painter, QRectF(face).adjusted(-out, -out, out, out), kAccent, dress_.Corner + 2.5,
@@ -147,8 +127,8 @@ void Plate::PaintSwatch(QPainter& painter, const QRect& face) {
 void Plate::PaintPlain(QPainter& painter, const QRect& face) {
   const double corner = dress_.Corner * Unit();
   const int edge = host.scale.Edge();
-  if (dress_.Floats) PaintShadow(painter, face, corner, host.scale.Device(kShadow));
-  if (dress_.Shape == Cut::Heading) {
+  if (dress_.Floats) PaintShadow(painter, face, corner, host.scale.Device(kPanelShadow));
+  if (dress_.Shape == DressShape::Heading) {
     // Its lower end lies under the list, whose edge closes it.
     painter.setClipRect(face);
     PaintPlate(painter, face.adjusted(0, 0, 0, static_cast<int>(corner) + edge), dress_.Face,
@@ -163,9 +143,7 @@ void Plate::PaintPlain(QPainter& painter, const QRect& face) {
 void Plate::PaintCaption(QPainter& painter, const QRect& face, QRgb ink, Type letters) {
   QString caption = CaptionOf(control);
   const double unit = Unit();
-  const auto align = dress_.Align == Side::Left    ? Qt::AlignLeft
-                     : dress_.Align == Side::Right ? Qt::AlignRight
-                                                   : Qt::AlignHCenter;
+  const Qt::Alignment align = AlignmentOf(dress_.Align);
   if (dress_.Align == Side::Centre) caption = caption.trimmed();
   QRectF box = QRectF(face).adjusted(dress_.TextLeft * unit, 0, -dress_.TextRight * unit, 0);
   if (dress_.Upwards) {

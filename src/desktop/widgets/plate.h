@@ -7,8 +7,8 @@
 #include <QMouseEvent>
 #include <QWidget>
 
-#include "desktop/look/dress.h"
 #include "desktop/widgets/control_view.h"
+#include "look/dress.h"
 
 namespace orvane {
 

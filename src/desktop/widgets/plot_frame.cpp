@@ -5,7 +5,7 @@
 
 #include <QFontMetricsF>
 
-#include "desktop/look/plot_type.h"
+#include "desktop/look/plot_fonts.h"
 #include "desktop/windows/window_widget.h"
 
 namespace orvane {

@@ -4,7 +4,9 @@
 
 #include <QRegularExpression>
 
+#include "desktop/look/fonts.h"
 #include "desktop/windows/window_widget.h"
+#include "look/plot_letters.h"
 
 namespace orvane {
 namespace {
@@ -16,14 +18,6 @@ const QRegularExpression& GapPattern() {
 }
 
 }  // namespace
-
-QString GreekOf(const QString& letter) {
-  if (letter == QLatin1String("a")) return QStringLiteral("α");
-  if (letter == QLatin1String("b")) return QStringLiteral("β");
-  if (letter == QLatin1String("f")) return QStringLiteral("φ");
-  if (letter == QLatin1String("j")) return QStringLiteral("ϕ");
-  return letter;
-}
 
 QStringList BrokenLines(Type type, const QString& text, double width) {
   static const QRegularExpression words(QStringLiteral(R"(\s*(?:\S|  +(?=-))+)"));
@@ -97,7 +91,7 @@ void GreekLetter::Lay() {
 void GreekLetter::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   EnterPixels(painter);
-  const QString letter = GreekOf(QString::fromStdString(control.Caption));
+  const QString letter = QString::fromStdString(GreekOf(control.Caption.Get()));
   const double width = WidthOf(dress_.Letters, letter) * Unit();
   const QRectF box = gap_.translated(-spot_.Face.topLeft());
   DrawLine(painter, QRectF(box.center().x() - width / 2, box.top(), width + 1, box.height()),

@@ -41,7 +41,4 @@ class GreekLetter : public Plate {
   QRectF gap_;  // device pixels of the desk
 };
 
-// "a", "b", "f" and "j" as they are drawn: alpha, beta and both shapes of phi.
-QString GreekOf(const QString& letter);
-
 }  // namespace orvane

@@ -5,22 +5,19 @@
 
 #include <QTimer>
 
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 #include "desktop/reader/accessible_list.h"
 #include "desktop/widgets/flyout.h"
 #include "desktop/windows/window_widget.h"
+#include "look/palette.h"
 
 namespace orvane {
 namespace {
 
+using namespace measures;
 using namespace palette;
 
-// Pixels at 100 per cent.
-constexpr double kGap = 4;
-constexpr double kRounding = 0.1;  // of sixty-fourths, in a text that fits exactly
-constexpr double kBarZone = 7, kThumbWidth = 4, kThumbIn = 3, kThumbLeast = 12;
-constexpr Type kKeyType{11, 600};
+constexpr double kRounding = 0.1;  // pixels, of sixty-fourths, in a text that fits exactly
 
 }  // namespace
 
@@ -35,7 +32,7 @@ int RowList::WholeRows() const {
 int RowList::LastFirst() const { return std::max(0, static_cast<int>(rows_.size()) - WholeRows()); }
 
 QRect RowList::RowFace(int row) const {
-  const double right = measures_.Inset + (HasBar() ? kBarZone : 0);
+  const double right = measures_.Inset + (HasBar() ? kListBarZone : 0);
   const auto corner = [&](double pixels) { return host.scale.Device(pixels); };
   const QRect& face = Stand().Face;
   const double top = measures_.FirstTop + static_cast<double>(row - first_) * measures_.Height;
@@ -73,19 +70,19 @@ RowList::Parts RowList::PartsOf(int row) const {
 
 double RowList::RoomForText() const {
   const double width = static_cast<double>(control.At.Get().Width) / TwipsPerPixel;
-  return width - measures_.TextLeft - (HasBar() ? measures_.Inset + kBarZone : measures_.TextLeft) +
-         kRounding;
+  return width - measures_.TextLeft -
+         (HasBar() ? measures_.Inset + kListBarZone : measures_.TextLeft) + kRounding;
 }
 
 bool RowList::IsCut(int row) const {
   const Parts parts = PartsOf(row);
-  const double key = parts.Key.isEmpty() ? 0 : WidthOf(kKeyType, parts.Key) + kGap;
+  const double key = parts.Key.isEmpty() ? 0 : WidthOf(kKeyType, parts.Key) + kKeyGap;
   return key + WidthOf(measures_.Letters, parts.Rest) > RoomForText();
 }
 
 QString RowList::RowAsDrawn(int row) const {
   const Parts parts = PartsOf(row);
-  const double key = parts.Key.isEmpty() ? 0 : WidthOf(kKeyType, parts.Key) + kGap;
+  const double key = parts.Key.isEmpty() ? 0 : WidthOf(kKeyType, parts.Key) + kKeyGap;
   const QString rest = Elided(measures_.Letters, parts.Rest, RoomForText() - key);
   return parts.Key.isEmpty() ? rest : parts.Key + u' ' + rest;
 }
@@ -93,13 +90,13 @@ QString RowList::RowAsDrawn(int row) const {
 QRectF RowList::BarThumb() const {
   const QSize size = Stand().Face.size();
   const double unit = Unit();
-  const double track = size.height() - 2 * kThumbIn * unit;
+  const double track = size.height() - 2 * kListThumbIn * unit;
   const double share = static_cast<double>(WholeRows()) / std::max<qsizetype>(1, rows_.size());
-  const double length = std::max(track * share, kThumbLeast * unit);
+  const double length = std::max(track * share, kListThumbLeast * unit);
   const double at = HasBar() ? (track - length) * first_ / LastFirst() : 0;
   const double right = size.width() - (measures_.Inset + 1) * unit;
-  return {std::round(right - kThumbWidth * unit), std::round(kThumbIn * unit + at),
-          std::round(kThumbWidth * unit), std::round(length)};
+  return {std::round(right - kListThumbWidth * unit), std::round(kListThumbIn * unit + at),
+          std::round(kListThumbWidth * unit), std::round(length)};
 }
 
 bool RowList::IsOnBar(QPointF widget_point) const {
@@ -125,7 +122,7 @@ void RowList::paintEvent(QPaintEvent*) {
   if (HasBar()) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor::fromRgba(underMouse() || bar_held_ ? kAccent : kThumb));
-    painter.drawRoundedRect(BarThumb(), kThumbWidth / 2 * unit, kThumbWidth / 2 * unit);
+    painter.drawRoundedRect(BarThumb(), kListThumbWidth / 2 * unit, kListThumbWidth / 2 * unit);
   }
   if (HasRing()) PaintRing(painter, face, kAccent, 4, unit, false);
 }
@@ -141,7 +138,7 @@ void RowList::PaintRow(QPainter& painter, int row) {
   QRectF box(measures_.TextLeft * unit, face.top(), RoomForText() * unit, face.height());
   if (!parts.Key.isEmpty()) {
     DrawLine(painter, box, Qt::AlignLeft, kKeyType, chosen ? kFace : kDeep, unit, parts.Key);
-    box.adjust((WidthOf(kKeyType, parts.Key) + kGap) * unit, 0, 0, 0);
+    box.adjust((WidthOf(kKeyType, parts.Key) + kKeyGap) * unit, 0, 0, 0);
   }
   const QString rest = Elided(measures_.Letters, parts.Rest, box.width() / unit);
   DrawLine(painter, box, Qt::AlignLeft, measures_.Letters, chosen ? kFace : kInk, unit, rest);
@@ -202,8 +199,8 @@ void RowList::mousePressEvent(QMouseEvent* event) {
 void RowList::mouseMoveEvent(QMouseEvent* event) {
   if (!bar_held_) return Point(RowAt(event->position()));
   const QPointF at = (event->position() - FaceInWidget().topLeft()) * host.scale.Ratio;
-  const double track = Stand().Face.height() - 2 * kThumbIn * Unit() - BarThumb().height();
-  const double part = track > 0 ? (at.y() - grip_ - kThumbIn * Unit()) / track : 0;
+  const double track = Stand().Face.height() - 2 * kListThumbIn * Unit() - BarThumb().height();
+  const double part = track > 0 ? (at.y() - grip_ - kListThumbIn * Unit()) / track : 0;
   ScrollTo(static_cast<int>(std::lround(part * LastFirst())));
 }
 

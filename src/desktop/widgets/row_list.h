@@ -5,19 +5,12 @@
 #include <QMouseEvent>
 #include <QStringList>
 
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 #include "desktop/widgets/control_view.h"
 #include "desktop/widgets/wheel_turn.h"
+#include "look/measures.h"
 
 namespace orvane {
-
-// Pixels at 100 per cent: those of the four lists of structures, which are tightly set.
-struct RowMeasures {
-  int Height = 15, FirstTop = 1;
-  double TextLeft = 6;  // and right, where there is no bar
-  double Inset = 2;     // of a chosen row, from the list's edges
-  Type Letters{11, 400};
-};
 
 class RowList : public Viewed<QWidget> {
  public:
@@ -55,7 +48,7 @@ class RowList : public Viewed<QWidget> {
   bool has_keys_ = true;  // a row begins with a key of its own
   bool joined_ = true;    // to a heading above
   QRgb edge_;
-  RowMeasures measures_;
+  measures::Rows measures_;
 
  private:
   struct Parts {

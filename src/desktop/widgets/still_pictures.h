@@ -1,9 +1,9 @@
 // Pictures that are no surface: the icon, a picture in a card.
 #pragma once
 
-#include "desktop/look/dress.h"
 #include "desktop/widgets/picture_widget.h"
 #include "desktop/widgets/plate.h"
+#include "look/dress.h"
 
 namespace orvane {
 

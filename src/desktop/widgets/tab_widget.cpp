@@ -3,16 +3,16 @@
 #include <QKeyEvent>
 
 #include "desk/actions.h"
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/measures.h"
+#include "look/palette.h"
 
 namespace orvane {
 namespace {
 
-constexpr int kOutWidth = 1035, kOutHeight = 300;  // twips
-constexpr double kShadow = 4;                      // pixels
+using namespace measures;
 
 }  // namespace
 
@@ -21,9 +21,10 @@ void TabWidget::Lay() {
   ControlView::Lay();
   tab_ = Stand();
   const Place at = control.At;
-  const Place out = host.OnDesk({at.Left + at.Width - kOutWidth,
-                                 at.Top + (at.Height - kOutHeight) / 2, kOutWidth, kOutHeight});
-  out_ = SpotOf(host.scale, out, kShadow);
+  const Place out =
+      host.OnDesk({at.Left + at.Width - kTabOutWidth, at.Top + (at.Height - kTabOutHeight) / 2,
+                   kTabOutWidth, kTabOutHeight});
+  out_ = SpotOf(host.scale, out, kTabShadow);
   if (IsOut()) setGeometry(tab_.Hull.united(out_.Hull));
 }
 
@@ -72,11 +73,11 @@ void TabWidget::PaintTab(QPainter& painter, const QRect& face) {
 
 void TabWidget::PaintCaption(QPainter& painter, const QRect& face) {
   const double unit = Unit(), corner = 4 * unit;
-  PaintShadow(painter, face, corner, host.scale.Device(kShadow));
+  PaintShadow(painter, face, corner, host.scale.Device(kTabShadow));
   PaintPlate(painter, face, held_ ? palette::kPress : palette::kTint, palette::kAccent, corner,
              host.scale.Edge());
   if (HasRing()) PaintRing(painter, face, palette::kAccent, 4, unit, true);
-  DrawLine(painter, face, Qt::AlignHCenter, {11, 500}, palette::kDeep, unit,
+  DrawLine(painter, face, Qt::AlignHCenter, kPlainType, palette::kDeep, unit,
            QString::fromStdString(control.Caption));
 }
 

@@ -4,17 +4,19 @@
 #include <QSignalBlocker>
 
 #include "desk/actions.h"
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/measures.h"
+#include "look/palette.h"
 
 namespace orvane {
 namespace {
 
+using namespace measures;
+
 // The colour that a box of an array stands for, as a mark at its left.
 constexpr QRgb kMarks[] = {palette::kRedMark, palette::kGreenMark, palette::kBlueMark};
-constexpr double kMarkLeft = 4, kMarkWidth = 4, kMarkIn = 4, kTextLeft = 13;  // pixels
 
 }  // namespace
 
@@ -41,9 +43,10 @@ void TextWidget::Take(Aspect aspect) {
 void TextWidget::Lay() {
   ControlView::Lay();
   const double factor = host.scale.Factor;
-  setFont(FontOf({11, 500}, factor));
+  setFont(FontOf(kPlainType, factor));
   // The toolkit keeps two pixels of its own beside the text.
-  setTextMargins(static_cast<int>(kTextLeft * factor) - 2, 0, static_cast<int>(4 * factor), 0);
+  setTextMargins(static_cast<int>(kMarkedTextLeft * factor) - 2, 0, static_cast<int>(4 * factor),
+                 0);
 }
 
 void TextWidget::paintEvent(QPaintEvent* event) {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 #include "desktop/widgets/control_view.h"
 #include "draw/elements.h"
+#include "look/palette.h"
 #include "narration/atom_walk.h"
 
 namespace orvane {

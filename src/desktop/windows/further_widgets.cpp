@@ -1,7 +1,6 @@
 #include "desktop/windows/further_widgets.h"
 
 #include "controls/kinds.h"
-#include "desktop/look/dress.h"
 #include "desktop/widgets/file_list_widget.h"
 #include "desktop/widgets/go_on_widget.h"
 #include "desktop/widgets/line_widget.h"
@@ -11,6 +10,7 @@
 #include "desktop/widgets/plot_label.h"
 #include "desktop/widgets/reading_text.h"
 #include "desktop/widgets/still_pictures.h"
+#include "look/dress.h"
 
 namespace orvane {
 namespace {
@@ -39,17 +39,17 @@ ControlView* MakeFurtherView(WindowWidget& window, Control& control, QWidget& pa
   if (control.Owner.Name == "Ramachandran") return MakePlotView(window, control, parent);
   if (auto* list = dynamic_cast<FileList*>(&control)) return MakeFileList(window, *list, parent);
   switch (DressOf(control).Shape) {
-    case Cut::GoOn:
+    case DressShape::GoOn:
       return new GoOnWidget(window, control, parent);
-    case Cut::Icon:
+    case DressShape::Icon:
       return new IconWidget(window, control, parent);
-    case Cut::Link:
+    case DressShape::Link:
       return new LinkWidget(window, control, parent);
-    case Cut::Reading:
+    case DressShape::Reading:
       return new ReadingText(window, control, parent);
-    case Cut::Greek:
+    case DressShape::Greek:
       return new GreekLetter(window, control, parent);
-    case Cut::RoundPicture:
+    case DressShape::RoundPicture:
       return new RoundPicture(window, control, parent);
     default:
       return nullptr;

@@ -7,11 +7,11 @@
 #include <QPainter>
 #include <QScreen>
 
+#include "desktop/look/fonts.h"
 #include "desktop/look/icon.h"
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
 #include "desktop/widgets/control_view.h"
 #include "desktop/widgets/reading_text.h"
+#include "look/palette.h"
 
 namespace orvane {
 namespace {

@@ -10,11 +10,11 @@
 #include "desk/actions.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
+#include "look/measures.h"
 
 namespace orvane {
 namespace {
 
-constexpr int kStripHeight = 300;                          // twips
 constexpr std::string_view kBehindHairline = "ExitEntry";  // leaving is set apart
 
 bool HasEntries(const Control& menu) {
@@ -81,7 +81,7 @@ void MenuStrip::Lay() {
   const double factor = window_.scale.Factor;
   setProperty("factor", factor);
   for (QMenu* menu : std::as_const(menus_)) menu->setProperty("factor", factor);
-  setGeometry(SpotOf(window_.scale, {0, 0, window_.PlanWidth(), kStripHeight}, 0).Hull);
+  setGeometry(SpotOf(window_.scale, {0, 0, window_.PlanWidth(), measures::kStripTwips}, 0).Hull);
   // Sizes of the entries hang on the factor.
   QEvent changed(QEvent::StyleChange);
   QCoreApplication::sendEvent(this, &changed);

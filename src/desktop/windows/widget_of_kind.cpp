@@ -2,7 +2,6 @@
 
 #include "controls/kinds.h"
 #include "controls/scroll_bar.h"
-#include "desktop/look/dress.h"
 #include "desktop/widgets/bar_widget.h"
 #include "desktop/widgets/keyed_picture.h"
 #include "desktop/widgets/list_widget.h"
@@ -11,6 +10,7 @@
 #include "desktop/widgets/tab_widget.h"
 #include "desktop/widgets/text_widget.h"
 #include "desktop/windows/further_widgets.h"
+#include "look/dress.h"
 
 namespace orvane {
 
@@ -35,7 +35,7 @@ ControlView* MakeView(WindowWidget& window, Control& control, QWidget& parent) {
     default:
       break;
   }
-  if (DressOf(control).Shape == Cut::Tab) return new TabWidget(window, control, parent);
+  if (DressOf(control).Shape == DressShape::Tab) return new TabWidget(window, control, parent);
   return new Plate(window, control, parent);
 }
 

@@ -11,21 +11,20 @@
 #include <QWindow>
 
 #include "desk/actions.h"
-#include "desktop/look/dress.h"
 #include "desktop/look/look_style.h"
-#include "desktop/look/palette.h"
-#include "desktop/look/window_dress.h"
 #include "desktop/widgets/control_view.h"
 #include "desktop/widgets/flyout.h"
 #include "desktop/windows/menu_strip.h"
 #include "desktop/windows/picture_keys_map.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/widget_of_kind.h"
+#include "look/dress.h"
+#include "look/measures.h"
+#include "look/palette.h"
+#include "look/window_dress.h"
 
 namespace orvane {
 namespace {
-
-constexpr int kStripHeight = 300;  // twips
 
 // What a window manager's frame may take of the screen, in the toolkit's pixels.
 constexpr QSize kFrame(8, 40);
@@ -57,7 +56,7 @@ void Ground::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), QColor::fromRgba(dress.Ground));
   if (dress.Band > 0) {
     EnterDevicePixels(painter, window_.scale, {{}, {}});
-    const QRect all = window_.scale.Device({0, 0, window_.PlanWidth(), dress.Band});
+    const QRect all = RectOf(window_.scale.Device({0, 0, window_.PlanWidth(), dress.Band}));
     painter.fillRect(all, QColor::fromRgba(palette::kBezel));
   }
 }
@@ -132,7 +131,7 @@ void WindowWidget::TakeWindow(Aspect aspect) {
 }
 
 Place WindowWidget::OnDesk(Place place) const {
-  if (strip != nullptr) place.Top += kStripHeight;
+  if (strip != nullptr) place.Top += measures::kStripTwips;
   return place;
 }
 

@@ -7,7 +7,7 @@
 #include <QWidget>
 
 #include "controls/window.h"
-#include "desktop/look/scale.h"
+#include "desktop/look/spot.h"
 
 namespace orvane {
 

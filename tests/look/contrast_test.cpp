@@ -2,7 +2,7 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "desktop/look/palette.h"
+#include "look/palette.h"
 
 namespace orvane {
 namespace {
@@ -10,22 +10,22 @@ namespace {
 using namespace palette;
 
 // Relative luminance and contrast, as defined for reading on screens.
-double Light(QRgb colour) {
-  const auto part = [](int eight_bits) {
-    const double v = eight_bits / 255.0;
+double Light(Argb colour) {
+  const auto part = [&](int shift) {
+    const double v = static_cast<double>((colour >> shift) & 0xFFU) / 255.0;
     return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
   };
-  return 0.2126 * part(qRed(colour)) + 0.7152 * part(qGreen(colour)) + 0.0722 * part(qBlue(colour));
+  return 0.2126 * part(16) + 0.7152 * part(8) + 0.0722 * part(0);
 }
 
-double Contrast(QRgb a, QRgb b) {
+double Contrast(Argb a, Argb b) {
   const double one = Light(a), other = Light(b);
   return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
 struct Pair {
   const char* What;
-  QRgb Over, Under;
+  Argb Over, Under;
   double Least;
 };
 

@@ -5,12 +5,10 @@
 #include <QPainter>
 #include <QString>
 
-namespace orvane {
+#include "look/dress.h"
+#include "look/type.h"
 
-struct Type {
-  int Size = 11;     // pixels at 100 per cent
-  int Weight = 500;  // 400, 500, 600 or 700
-};
+namespace orvane {
 
 // Before the first text: the embedded families become known.
 void LoadType();
@@ -20,6 +18,8 @@ void LoadType();
 QFont FontOf(Type type, double factor = 1);
 double WidthOf(Type type, const QString& text);  // pixels at 100 per cent
 QString Elided(Type type, const QString& text, double width);
+
+Qt::Alignment AlignmentOf(Side side);
 
 // One line in `box`, in device pixels; `unit` is device pixels to a pixel at 100 per cent. A line
 // wider than its box is drawn narrower, never cut.

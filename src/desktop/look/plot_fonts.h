@@ -5,9 +5,9 @@
 #include <QFont>
 #include <QString>
 
-namespace orvane {
+#include "look/plot_letters.h"
 
-enum class PlotFamily { Serif, BoldSerif, Sans, Symbol };
+namespace orvane {
 
 // At 100 per cent, like all type of the windows.
 QFont PlotFont(PlotFamily family, int size, const QString& text);

@@ -1,4 +1,4 @@
-#include "desktop/look/plot_type.h"
+#include "desktop/look/plot_fonts.h"
 
 #include <embedded/liberation_sans.h>
 #include <embedded/liberation_serif.h>
@@ -20,20 +20,16 @@ bool LoadPlotType() {
          AddFont(embedded::liberation_serif_bold());
 }
 
-// The straight phi is missing in the serif type; the windows' own type has it.
-constexpr char16_t kStraightPhi = u'ϕ';
-constexpr double kLent = 0.8;  // of the size: its letters are larger for their size
-
 }  // namespace
 
 QFont PlotFont(PlotFamily family, int size, const QString& text) {
   static const bool loaded = LoadPlotType();  // when the first window wants it
   (void)loaded;
-  const bool lent = text.contains(kStraightPhi);
+  const bool lent = text.contains(QString::fromUtf8(kStraightPhi.data(), kStraightPhi.size()));
   QFont font(lent                         ? QStringLiteral("Inter")
              : family == PlotFamily::Sans ? QStringLiteral("Liberation Sans")
                                           : QStringLiteral("Liberation Serif"));
-  font.setPixelSize(lent ? static_cast<int>(size * kLent) : size);
+  font.setPixelSize(lent ? static_cast<int>(size * kLentSize) : size);
   font.setBold(family == PlotFamily::BoldSerif);
   font.setHintingPreference(QFont::PreferVerticalHinting);
   return font;

@@ -5,14 +5,14 @@
 #include <string_view>
 
 #include "controls/control.h"
-#include "desktop/look/palette.h"
-#include "desktop/look/type.h"
+#include "look/palette.h"
+#include "look/type.h"
 
 namespace orvane {
 
 enum class Side { Left, Centre, Right };
 
-enum class Cut {
+enum class DressShape {
   Plain,    // face, edge and line of text
   Bevel,    // by bevel and text style, with hover and press
   Heading,  // joined to the list below: no lower corners, no lower edge
@@ -28,11 +28,11 @@ enum class Cut {
 
 struct Dress {
   std::string_view Control;  // name with the window's prefix; without index, for all of an array
-  Cut Shape = Cut::Plain;
-  QRgb Face = palette::kNone;
-  QRgb Edge = palette::kNone;
+  DressShape Shape = DressShape::Plain;
+  Argb Face = palette::kNone;
+  Argb Edge = palette::kNone;
   int Corner = 0;  // pixels
-  QRgb Ink = palette::kInk;
+  Argb Ink = palette::kInk;
   Type Letters{};
   Side Align = Side::Centre;
   int TextLeft = 0, TextRight = 0;  // pixels kept free

@@ -1,4 +1,4 @@
-#include "desktop/look/type.h"
+#include "desktop/look/fonts.h"
 
 #include <cmath>
 #include <embedded/inter_bold.h>
@@ -46,6 +46,12 @@ double WidthOf(Type type, const QString& text) {
 
 QString Elided(Type type, const QString& text, double width) {
   return QFontMetricsF(FontOf(type)).elidedText(text, Qt::ElideRight, width);
+}
+
+Qt::Alignment AlignmentOf(Side side) {
+  return side == Side::Left    ? Qt::AlignLeft
+         : side == Side::Right ? Qt::AlignRight
+                               : Qt::AlignHCenter;
 }
 
 void DrawLine(QPainter& painter, const QRectF& box, Qt::Alignment align, Type type, QRgb ink,

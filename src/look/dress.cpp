@@ -1,9 +1,9 @@
-#include "desktop/look/dress.h"
+#include "look/dress.h"
 
 #include <array>
 
 #include "controls/window.h"
-#include "desktop/look/information_dress.h"
+#include "look/information_dress.h"
 
 namespace orvane {
 namespace {
@@ -13,10 +13,10 @@ using namespace palette;
 // clang-format off
 constexpr auto kDresses = std::to_array<Dress>({
     // Main window.
-    {.Control = "Panel3D1", .Shape = Cut::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
-    {.Control = "Panel3D2", .Shape = Cut::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
-    {.Control = "Panel3D3", .Shape = Cut::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
-    {.Control = "Panel3D4", .Shape = Cut::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
+    {.Control = "Panel3D1", .Shape = DressShape::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
+    {.Control = "Panel3D2", .Shape = DressShape::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
+    {.Control = "Panel3D3", .Shape = DressShape::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
+    {.Control = "Panel3D4", .Shape = DressShape::Heading, .Face = kBand, .Edge = kListEdge, .Corner = 4, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 6},
     {.Control = "Panel3D5", .Ink = kAccent, .Letters = {13, 700}, .Align = Side::Right, .TextRight = 2},
     {.Control = "Box", .Face = kBezel, .Corner = 4},
     {.Control = "P_Pic1", .Face = kBezel, .Corner = 4},
@@ -38,13 +38,13 @@ constexpr auto kDresses = std::to_array<Dress>({
     {.Control = "P_Clr_Holder", .Face = kGround, .Edge = kEdge, .Corner = 6, .Floats = true},
     {.Control = "V_RGB_H", .Face = kGround, .Edge = kEdge, .Corner = 6, .Floats = true},
     {.Control = "P_Dir_Holder", .Face = kGround, .Edge = kEdge, .Corner = 6, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 12, .TextTop = 10, .Floats = true},
-    {.Control = "P_Clr", .Shape = Cut::Swatch, .Corner = 3, .Letters = {7, 700}},
-    {.Control = "Do_color", .Shape = Cut::Bevel, .Corner = 4, .LooksPressed = true},  // its panel is open while it is seen
-    {.Control = "Bt_M_Ld", .Shape = Cut::Tab},
+    {.Control = "P_Clr", .Shape = DressShape::Swatch, .Corner = 3, .Letters = {7, 700}},
+    {.Control = "Do_color", .Shape = DressShape::Bevel, .Corner = 4, .LooksPressed = true},  // its panel is open while it is seen
+    {.Control = "Bt_M_Ld", .Shape = DressShape::Tab},
 });
 // clang-format on
 
-constexpr Dress kBevelled = {.Control = "", .Shape = Cut::Bevel, .Corner = 4};
+constexpr Dress kBevelled = {.Control = "", .Shape = DressShape::Bevel, .Corner = 4};
 constexpr Dress kBare = {.Control = ""};
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "desktop/look/window_dress.h"
+#include "look/window_dress.h"
 
 #include <array>
 

@@ -3,13 +3,13 @@
 
 #include <string_view>
 
-#include "desktop/look/palette.h"
+#include "look/palette.h"
 
 namespace orvane {
 
 struct WindowDress {
   std::string_view Window;
-  QRgb Ground = palette::kGround;
+  Argb Ground = palette::kGround;
   int Band = 0;         // twips from the top, dark
   bool Centred = true;  // comes up in the middle of the screen, and not at its own place
 };

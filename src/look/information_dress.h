@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "desktop/look/dress.h"
+#include "look/dress.h"
 
 namespace orvane {
 
