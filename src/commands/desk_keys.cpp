@@ -4,30 +4,22 @@
 #include <array>
 
 #include "desk/actions.h"
+#include "desk/press_life.h"
 #include "narration/atom_walk.h"
 #include "ramachandran/map_walk.h"
 
 namespace orvane {
 namespace {
 
-// Acts as a key on the control itself: a press and a click in its middle.
-void Push(Orvane_Desk& desk, Control& control) {
-  const Place at = control.At;
-  const float x = static_cast<float>(at.Width) / (2 * TwipsPerPixel);
-  const float y = static_cast<float>(at.Height) / (2 * TwipsPerPixel);
-  Press(desk, control, kLeftButton, x, y);
-  Release(desk, control, kLeftButton, x, y);
-  Click(desk, control);
-}
-
+// Acts as a key on the control itself.
 template <auto kControl>
 void Push(Orvane_Desk& desk) {
-  Push(desk, desk.main.*kControl);
+  PressAndClickInTheMiddle(desk, desk.main.*kControl);
 }
 
 template <auto kArray, std::size_t kIndex>
 void PushOne(Orvane_Desk& desk) {
-  Push(desk, (desk.main.*kArray)[kIndex]);
+  PressAndClickInTheMiddle(desk, (desk.main.*kArray)[kIndex]);
 }
 
 // Acts as an arrow of the bar, or as its page area.

@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include "desk/actions.h"
+#include "desk/press_life.h"
 #include "measure/picks.h"
 #include "narration/atom_words.h"
 #include "narration/recipe.h"
@@ -141,9 +141,7 @@ void PickWalked(Orvane_Desk& desk) {
   desk.walk = {.Number = atom, .Load = desk.molecule.Loads};
   if (place) {
     const int state_before = desk.measure.PickState;
-    Press(desk, desk.main.Picture1, kLeftButton, place->X, place->Y);
-    Release(desk, desk.main.Picture1, kLeftButton, place->X, place->Y);
-    Click(desk, desk.main.Picture1);
+    PressAndClick(desk, desk.main.Picture1, place->X, place->Y);
     KeepPick(desk, *place, state_before);
   } else {
     desk.platform.Beep();

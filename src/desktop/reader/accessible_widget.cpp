@@ -5,6 +5,7 @@
 
 #include <QTimer>
 
+#include "desk/press_life.h"
 #include "desktop/widgets/control_view.h"
 #include "desktop/widgets/flyout.h"
 #include "desktop/windows/skin.h"
@@ -160,7 +161,7 @@ void AccessibleControl::doAction(const QString& name) {
 }
 
 void AccessibleControl::Do(const QString&) {
-  if (ControlView* view = View()) view->ClickInTheMiddle();
+  if (ControlView* view = View()) PressAndClickInTheMiddle(view->host.skin.desk, view->control);
 }
 
 void TellState(ControlView& view) {

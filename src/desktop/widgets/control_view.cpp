@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "desk/actions.h"
+#include "desk/press_life.h"
 #include "desktop/reader/accessible_widget.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
@@ -22,6 +23,20 @@ Place Absolute(const Control& control, Place place) {
 
 QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// Left, right and middle button, as events count them.
+int ButtonOf(Qt::MouseButton button) {
+  return button == Qt::LeftButton    ? kLeftButton
+         : button == Qt::RightButton ? kRightButton
+                                     : kMiddleButton;
+}
+
+// The sum of those held.
+int ButtonsOf(Qt::MouseButtons buttons) {
+  return (buttons & Qt::LeftButton ? kLeftButton : 0) +
+         (buttons & Qt::RightButton ? kRightButton : 0) +
+         (buttons & Qt::MiddleButton ? kMiddleButton : 0);
 }
 
 }  // namespace
@@ -79,14 +94,6 @@ void ControlView::Lay() {
   widget.setGeometry(spot_.Hull.translated(-above->mapTo(&host.Desk(), QPoint(0, 0))));
 }
 
-void ControlView::ClickInTheMiddle() {
-  const QPointF at = SurfacePoint(FaceInWidget().center());
-  const auto x = static_cast<float>(at.x()), y = static_cast<float>(at.y());
-  Press(host.skin.desk, control, kLeftButton, x, y);
-  Release(host.skin.desk, control, kLeftButton, x, y);
-  Click(host.skin.desk, control);
-}
-
 double ControlView::Unit() const { return host.scale.Unit(); }
 
 QRectF ControlView::FaceInWidget() const {
@@ -121,6 +128,22 @@ void ControlView::Hear(QEvent& event) {
     default:
       break;
   }
+}
+
+void ControlView::PassPress(PressLife& life, const QMouseEvent& event) const {
+  const QPointF at = SurfacePoint(event.position());
+  life.ButtonDown(ButtonOf(event.button()), static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
+void ControlView::PassMove(PressLife& life, const QMouseEvent& event) const {
+  const QPointF at = SurfacePoint(event.position());
+  life.Moved(ButtonsOf(event.buttons()), static_cast<float>(at.x()), static_cast<float>(at.y()));
+}
+
+void ControlView::PassRelease(PressLife& life, const QMouseEvent& event, bool over) const {
+  const QPointF at = SurfacePoint(event.position());
+  life.ButtonUp(ButtonOf(event.button()), static_cast<float>(at.x()), static_cast<float>(at.y()),
+                over);
 }
 
 QRect ControlView::EnterPixels(QPainter& painter) const {

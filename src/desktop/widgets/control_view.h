@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QWidget>
 
@@ -11,6 +12,7 @@
 
 namespace orvane {
 
+class PressLife;
 class Skin;
 class WindowWidget;
 
@@ -32,9 +34,6 @@ class ControlView {
   // Puts the widget at the control's place.
   virtual void Lay();
 
-  // A press and a click in the middle, as keys and a screen reader do it.
-  void ClickInTheMiddle();
-
   double Unit() const;                               // device pixels to a pixel of the plan
   const Spot& Stand() const { return spot_; }        // in the desk
   QPointF SurfacePoint(QPointF widget_point) const;  // pixels of the control
@@ -44,6 +43,10 @@ class ControlView {
   virtual Place StandsAt() const { return control.At; }
   virtual double Outset() const { return 0; }  // pixels painted round the face
   void Hear(QEvent& event);                    // pointer and keyboard coming
+  // The pointer's buttons, at a place in the pixels of the control; `over` what may be clicked.
+  void PassPress(PressLife& life, const QMouseEvent& event) const;
+  void PassMove(PressLife& life, const QMouseEvent& event) const;
+  void PassRelease(PressLife& life, const QMouseEvent& event, bool over) const;
   QRect EnterPixels(QPainter& painter) const;  // device pixels; gives the face, from 0, 0
   bool HasRing() const { return widget.hasFocus(); }
 

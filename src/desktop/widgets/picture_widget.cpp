@@ -7,8 +7,6 @@
 
 #include "controls/kinds.h"
 #include "controls/surface.h"
-#include "desk/actions.h"
-#include "desktop/widgets/plate.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
 #include "look/palette.h"
@@ -18,7 +16,7 @@
 namespace orvane {
 
 PictureWidget::PictureWidget(WindowWidget& owner, Control& shown, QWidget& parent)
-    : Viewed(owner, shown, parent) {
+    : Viewed(owner, shown, parent), life_(owner.skin.desk, shown) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -96,27 +94,12 @@ void PictureWidget::paintEvent(QPaintEvent*) {
   painter.drawImage(face.topLeft(), of_molecule ? host.skin.sight.Shown(Pixels()) : Pixels());
 }
 
-void PictureWidget::mousePressEvent(QMouseEvent* event) {
-  held_ = event->button() == Qt::LeftButton;
-  const QPointF at = SurfacePoint(event->position());
-  Press(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
-        static_cast<float>(at.y()));
-}
+void PictureWidget::mousePressEvent(QMouseEvent* event) { PassPress(life_, *event); }
 
-void PictureWidget::mouseMoveEvent(QMouseEvent* event) {
-  const QPointF at = SurfacePoint(event->position());
-  Move(host.skin.desk, control, ButtonsOf(event->buttons()), static_cast<float>(at.x()),
-       static_cast<float>(at.y()));
-}
+void PictureWidget::mouseMoveEvent(QMouseEvent* event) { PassMove(life_, *event); }
 
 void PictureWidget::mouseReleaseEvent(QMouseEvent* event) {
-  const bool left = event->button() == Qt::LeftButton;
-  const bool click = left && held_ && FaceInWidget().contains(event->position());
-  if (left) held_ = false;
-  const QPointF at = SurfacePoint(event->position());
-  Release(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
-          static_cast<float>(at.y()));
-  if (click) Click(host.skin.desk, control);
+  PassRelease(life_, *event, FaceInWidget().contains(event->position()));
 }
 
 }  // namespace orvane

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <QImage>
-#include <QMouseEvent>
 
+#include "desk/press_life.h"
 #include "desktop/widgets/control_view.h"
 #include "desktop/widgets/rest_tip.h"
 #include "raster/picture.h"
@@ -33,8 +33,8 @@ class PictureWidget : public Viewed<QWidget> {
 
   bool stale_ = true;  // the pixels are older than the picture
   bool told_ = false;  // that there was no memory for them
-  bool held_ = false;
   QImage pixels_;
+  PressLife life_;
   RestTip rest_tip_{*this};
 };
 

@@ -5,7 +5,6 @@
 
 #include <QKeyEvent>
 
-#include "desk/actions.h"
 #include "desktop/look/fonts.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
@@ -22,20 +21,8 @@ QString CaptionOf(const Control& control) { return QString::fromStdString(contro
 
 }  // namespace
 
-int ButtonOf(Qt::MouseButton button) {
-  return button == Qt::LeftButton    ? kLeftButton
-         : button == Qt::RightButton ? kRightButton
-                                     : kMiddleButton;
-}
-
-int ButtonsOf(Qt::MouseButtons buttons) {
-  return (buttons & Qt::LeftButton ? kLeftButton : 0) +
-         (buttons & Qt::RightButton ? kRightButton : 0) +
-         (buttons & Qt::MiddleButton ? kMiddleButton : 0);
-}
-
 Plate::Plate(WindowWidget& owner, Control& shown, QWidget& parent)
-    : Viewed(owner, shown, parent), dress_(DressOf(shown)) {
+    : Viewed(owner, shown, parent), dress_(DressOf(shown)), life_(owner.skin.desk, shown) {
   const ControlKind kind = shown.Row.Kind;
   if (kind == ControlKind::Ornament || kind == ControlKind::Line) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -167,28 +154,15 @@ void Plate::PaintCaption(QPainter& painter, const QRect& face, QRgb ink, Type le
 }
 
 void Plate::mousePressEvent(QMouseEvent* event) {
-  held_ = event->button() == Qt::LeftButton;
   update();
-  const QPointF at = SurfacePoint(event->position());
-  Press(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
-        static_cast<float>(at.y()));
+  PassPress(life_, *event);
 }
 
-void Plate::mouseMoveEvent(QMouseEvent* event) {
-  const QPointF at = SurfacePoint(event->position());
-  Move(host.skin.desk, control, ButtonsOf(event->buttons()), static_cast<float>(at.x()),
-       static_cast<float>(at.y()));
-}
+void Plate::mouseMoveEvent(QMouseEvent* event) { PassMove(life_, *event); }
 
 void Plate::mouseReleaseEvent(QMouseEvent* event) {
-  const bool left = event->button() == Qt::LeftButton;
-  const bool click = left && held_ && FaceInWidget().contains(event->position());
-  if (left) held_ = false;
   update();
-  const QPointF at = SurfacePoint(event->position());
-  Release(host.skin.desk, control, ButtonOf(event->button()), static_cast<float>(at.x()),
-          static_cast<float>(at.y()));
-  if (click) Click(host.skin.desk, control);
+  PassRelease(life_, *event, FaceInWidget().contains(event->position()));
 }
 
 // Space and Enter are a click.
@@ -196,22 +170,18 @@ void Plate::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   const bool own = hasFocus();  // else it has come up from a control that stands on this one
   if (!own || (!enter && event->key() != Qt::Key_Space)) return event->ignore();
-  if (event->isAutoRepeat() || held_key_.has_value()) return;
-  held_key_ = event->key();
+  if (!event->isAutoRepeat()) life_.KeyDown(event->key());
   update();
 }
 
 void Plate::keyReleaseEvent(QKeyEvent* event) {
-  if (held_key_ != event->key() || event->isAutoRepeat()) return event->ignore();
-  held_key_.reset();
   update();
-  ClickInTheMiddle();
+  if (event->isAutoRepeat() || !life_.KeyUp(event->key())) event->ignore();
 }
 
-// The key will be let go elsewhere.
 void Plate::focusOutEvent(QFocusEvent* event) {
   Viewed::focusOutEvent(event);
-  held_key_.reset();
+  life_.KeyboardLeaves();
   update();
 }
 

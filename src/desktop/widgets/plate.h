@@ -2,11 +2,10 @@
 // click.
 #pragma once
 
-#include <optional>
-
 #include <QMouseEvent>
 #include <QWidget>
 
+#include "desk/press_life.h"
 #include "desktop/widgets/control_view.h"
 #include "look/dress.h"
 
@@ -29,7 +28,7 @@ class Plate : public Viewed<QWidget> {
   void keyReleaseEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
-  bool IsHeld() const { return held_ || held_key_.has_value(); }
+  bool IsHeld() const { return life_.IsHeld(); }
 
   const Dress& dress_;
 
@@ -39,12 +38,7 @@ class Plate : public Viewed<QWidget> {
   void PaintPlain(QPainter& painter, const QRect& face);
   void PaintCaption(QPainter& painter, const QRect& face, QRgb ink, Type letters);
 
-  bool held_ = false;            // by the left button
-  std::optional<int> held_key_;  // which clicks when it is let go while the keyboard is still here
+  PressLife life_;
 };
-
-// Left, right and middle button, as events count them; the sum of those held for a move.
-int ButtonOf(Qt::MouseButton button);
-int ButtonsOf(Qt::MouseButtons buttons);
 
 }  // namespace orvane

@@ -16,6 +16,9 @@ using namespace measures;
 
 }  // namespace
 
+TabWidget::TabWidget(WindowWidget& owner, Control& shown, QWidget& parent)
+    : Viewed(owner, shown, parent), life_(owner.skin.desk, shown) {}
+
 // The widget covers both while the caption is out, and the tab alone otherwise.
 void TabWidget::Lay() {
   ControlView::Lay();
@@ -74,24 +77,21 @@ void TabWidget::PaintTab(QPainter& painter, const QRect& face) {
 void TabWidget::PaintCaption(QPainter& painter, const QRect& face) {
   const double unit = Unit(), corner = 4 * unit;
   PaintShadow(painter, face, corner, host.scale.Device(kTabShadow));
-  PaintPlate(painter, face, held_ ? palette::kPress : palette::kTint, palette::kAccent, corner,
-             host.scale.Edge());
+  PaintPlate(painter, face, life_.IsHeld() ? palette::kPress : palette::kTint, palette::kAccent,
+             corner, host.scale.Edge());
   if (HasRing()) PaintRing(painter, face, palette::kAccent, 4, unit, true);
   DrawLine(painter, face, Qt::AlignHCenter, kPlainType, palette::kDeep, unit,
            QString::fromStdString(control.Caption));
 }
 
 void TabWidget::mousePressEvent(QMouseEvent* event) {
-  held_ = event->button() == Qt::LeftButton;
   update();
+  PassPress(life_, *event);
 }
 
 void TabWidget::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  const bool click = held_ && rect().contains(event->position().toPoint());
-  held_ = false;
   update();
-  if (click) Click(host.skin.desk, control);
+  PassRelease(life_, *event, rect().contains(event->position().toPoint()));
 }
 
 void TabWidget::keyPressEvent(QKeyEvent* event) {

@@ -2,15 +2,14 @@
 // the left; the pointer may follow it there.
 #pragma once
 
-#include <QMouseEvent>
-
+#include "desk/press_life.h"
 #include "desktop/widgets/control_view.h"
 
 namespace orvane {
 
 class TabWidget : public Viewed<QWidget> {
  public:
-  using Viewed::Viewed;
+  TabWidget(WindowWidget& owner, Control& shown, QWidget& parent);
 
   void Lay() override;
   bool IsOut() const { return underMouse() || hasFocus(); }
@@ -28,7 +27,7 @@ class TabWidget : public Viewed<QWidget> {
 
   Spot tab_;  // the tab itself
   Spot out_;  // its caption
-  bool held_ = false;
+  PressLife life_;
 };
 
 }  // namespace orvane
