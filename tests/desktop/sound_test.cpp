@@ -89,6 +89,20 @@ TEST_F(Chooser, ListsTheFoldersOnTheWayDownAndThoseInside) {
   EXPECT_EQ(folders->Rows().last(), "Music");
 }
 
+// An empty folder shows an empty list; the words are set in the quiet ink.
+TEST_F(Chooser, AFolderThatHasGoneSaysSoWhereItsFilesWouldStand) {
+  Open();
+  const QImage empty = files->grab().toImage();
+
+  OpenFolder(work.desk, main.Dir1, folder.filePath("gone").toStdString());
+
+  EXPECT_THAT(files->Rows(), IsEmpty());
+  EXPECT_NE(files->grab().toImage(), empty);
+  EXPECT_EQ(folders->Rows().last(), "gone");
+  OpenFolder(work.desk, main.Dir1, folder.path().toStdString());
+  EXPECT_EQ(files->grab().toImage(), empty);
+}
+
 TEST_F(Chooser, KeysGoFromDriveToDrive) {
   Open();
   QWidget& drive = work.WidgetOf(main.Drive1);

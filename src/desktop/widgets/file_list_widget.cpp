@@ -1,10 +1,13 @@
 #include "desktop/widgets/file_list_widget.h"
 
+#include <algorithm>
+
 #include <QDir>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QStorageInfo>
 
+#include "commands/chooser_folder.h"
 #include "desk/actions.h"
 #include "desktop/look/fonts.h"
 #include "desktop/windows/skin.h"
@@ -103,73 +106,68 @@ void DriveWidget::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-FolderRows::FolderRows(WindowWidget& owner, FileList& shown, QWidget& parent)
+FolderRowList::FolderRowList(WindowWidget& owner, FileList& shown, QWidget& parent)
     : RowList(owner, shown, parent), list_(shown) {
   has_keys_ = joined_ = false;
   edge_ = palette::kEdge;
   measures_ = measures::kWideRows;
 }
 
-void FolderRows::Take(Aspect aspect) {
+void FolderRowList::Take(Aspect aspect) {
   RowList::Take(aspect);
   if (aspect == Aspect::Rows) ReadFolder();
 }
 
 FolderList::FolderList(WindowWidget& owner, FileList& shown, QWidget& parent)
-    : FolderRows(owner, shown, parent) {
+    : FolderRowList(owner, shown, parent) {
   ReadFolder();
 }
 
-// From the root down to the open folder, which is the chosen row, and the folders in it.
 void FolderList::ReadFolder() {
+  const FolderRows folders = FoldersAt(list_.Path.Get());
   paths_.clear();
   QStringList rows;
-  if (list_.Path.Get().empty()) return SetRows(rows);
-  QDir folder(PathOf(list_));
-  do {
-    paths_.prepend(folder.absolutePath());
-    rows.prepend(folder.isRoot() ? folder.absolutePath() : folder.dirName());
-  } while (folder.cdUp());
-  const int chosen = static_cast<int>(rows.size()) - 1;
-  const QDir open(PathOf(list_));
-  for (const QString& name : open.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
-    rows.append(name);
-    paths_.append(open.absoluteFilePath(name));
+  for (const FolderRows::Row& row : folders.Rows) {
+    rows.append(QString::fromStdString(row.Name));
+    paths_.push_back(row.Path);
   }
   SetRows(rows);
-  SetChosen(chosen);
+  SetChosen(folders.Open);
 }
 
 void FolderList::Choose(int row) { SetChosen(row); }
 
 void FolderList::ChooseTwice(int row) {
-  OpenFolder(host.skin.desk, list_, paths_[row].toStdString());
+  OpenFolder(host.skin.desk, list_, paths_[static_cast<std::size_t>(row)]);
 }
 
 SoundFileList::SoundFileList(WindowWidget& owner, FileList& shown, QWidget& parent)
-    : FolderRows(owner, shown, parent) {
+    : FolderRowList(owner, shown, parent) {
   ReadFolder();
 }
 
 void SoundFileList::ReadFolder() {
+  FileRows files = FilesAt(list_.Path.Get(), list_.Pattern.Get());
+  names_ = std::move(files.Names);
   QStringList rows;
-  if (!list_.Path.Get().empty()) {
-    const QStringList patterns = QString::fromStdString(list_.Pattern).split(u';');
-    rows = QDir(PathOf(list_)).entryList(patterns, QDir::Files, QDir::Name);
-  }
+  for (const std::string& name : names_) rows.append(QString::fromStdString(name));
+  SetInstead(QString::fromStdString(files.Trouble));
   SetRows(rows);
-  SetChosen(static_cast<int>(rows.indexOf(QString::fromStdString(list_.FileName))));
+  SetChosen(ChosenName());
+}
+
+int SoundFileList::ChosenName() const {
+  const auto found = std::find(names_.begin(), names_.end(), list_.FileName.Get());
+  return found == names_.end() ? -1 : static_cast<int>(found - names_.begin());
 }
 
 void SoundFileList::Take(Aspect aspect) {
-  FolderRows::Take(aspect);
-  if (aspect == Aspect::Value) {
-    SetChosen(static_cast<int>(Rows().indexOf(QString::fromStdString(list_.FileName))));
-  }
+  FolderRowList::Take(aspect);
+  if (aspect == Aspect::Value) SetChosen(ChosenName());
 }
 
 void SoundFileList::Choose(int row) {
-  ChooseFile(host.skin.desk, list_, Rows()[row].toStdString());
+  ChooseFile(host.skin.desk, list_, names_[static_cast<std::size_t>(row)]);
 }
 
 void SoundFileList::ChooseTwice(int) { DoubleClick(host.skin.desk, list_); }

@@ -31,9 +31,9 @@ class DriveWidget : public Viewed<QWidget> {
 };
 
 // Rows that are read from the disk, anew when the control has another folder.
-class FolderRows : public RowList {
+class FolderRowList : public RowList {
  public:
-  FolderRows(WindowWidget& owner, FileList& shown, QWidget& parent);
+  FolderRowList(WindowWidget& owner, FileList& shown, QWidget& parent);
 
   void Take(Aspect aspect) override;
 
@@ -44,7 +44,7 @@ class FolderRows : public RowList {
 };
 
 // A double click or Enter opens a folder.
-class FolderList : public FolderRows {
+class FolderList : public FolderRowList {
  public:
   FolderList(WindowWidget& owner, FileList& shown, QWidget& parent);
 
@@ -54,11 +54,11 @@ class FolderList : public FolderRows {
  private:
   void ReadFolder() final;
 
-  QStringList paths_;  // of the rows
+  std::vector<std::string> paths_;  // of the rows
 };
 
 // A click chooses a file; a double click or Enter is the control's double click.
-class SoundFileList : public FolderRows {
+class SoundFileList : public FolderRowList {
  public:
   SoundFileList(WindowWidget& owner, FileList& shown, QWidget& parent);
 
@@ -69,6 +69,9 @@ class SoundFileList : public FolderRows {
 
  private:
   void ReadFolder() final;
+  int ChosenName() const;  // its row; -1: not there
+
+  std::vector<std::string> names_;  // of the rows
 };
 
 }  // namespace orvane

@@ -8,6 +8,7 @@
 #include "desktop/look/fonts.h"
 #include "desktop/reader/accessible_list.h"
 #include "desktop/widgets/flyout.h"
+#include "desktop/widgets/reading_text.h"
 #include "desktop/windows/window_widget.h"
 #include "look/palette.h"
 
@@ -119,6 +120,7 @@ void RowList::paintEvent(QPaintEvent*) {
   }
   const int last = std::min(static_cast<int>(rows_.size()), first_ + WholeRows());
   for (int row = first_; row < last; ++row) PaintRow(painter, row);
+  if (rows_.isEmpty()) PaintInstead(painter);
   if (HasBar()) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor::fromRgba(underMouse() || bar_held_ ? kAccent : kThumb));
@@ -142,6 +144,16 @@ void RowList::PaintRow(QPainter& painter, int row) {
   }
   const QString rest = Elided(measures_.Letters, parts.Rest, box.width() / unit);
   DrawLine(painter, box, Qt::AlignLeft, measures_.Letters, chosen ? kFace : kInk, unit, rest);
+}
+
+void RowList::PaintInstead(QPainter& painter) {
+  const double unit = Unit();
+  QRectF line(measures_.TextLeft * unit, measures_.FirstTop * unit, RoomForText() * unit,
+              measures_.Height * unit);
+  for (const QString& words : BrokenLines(measures_.Letters, instead_, RoomForText())) {
+    DrawLine(painter, line, Qt::AlignLeft, measures_.Letters, kInk2, unit, words);
+    line.translate(0, measures_.Height * unit);
+  }
 }
 
 void RowList::SetRows(QStringList rows) {

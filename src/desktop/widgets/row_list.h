@@ -31,7 +31,8 @@ class RowList : public Viewed<QWidget> {
 
  protected:
   void SetRows(QStringList rows);
-  void SetChosen(int row);  // scrolls it into view
+  void SetChosen(int row);                                     // scrolls it into view
+  void SetInstead(const QString& words) { instead_ = words; }  // shown while there are no rows
 
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
@@ -66,7 +67,10 @@ class RowList : public Viewed<QWidget> {
   void ShowFlyout(int row);
   void PaintRow(QPainter& painter, int row);
 
+  void PaintInstead(QPainter& painter);
+
   QStringList rows_;
+  QString instead_;
   int chosen_ = -1, under_ = -1, first_ = 0;
   bool by_keys_ = false;  // the chosen row was reached by keys
   bool bar_held_ = false;
