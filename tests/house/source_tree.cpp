@@ -32,6 +32,26 @@ std::vector<std::string> Cells(const std::string& row) {
   return cells;
 }
 
+// The rows of the table whose first line begins so:
+// | `core` | what it owns | `core/molecule.h` | `runtime`, `controls` |
+std::vector<MapRow> RowsUnder(std::string_view head) {
+  constexpr std::size_t kRoom = 0, kChief = 2, kMayInclude = 3, kColumns = 4;
+  std::vector<MapRow> rows;
+  std::istringstream text(ReadProjectFile("docs/architecture.md"));
+  std::string line;
+  while (std::getline(text, line) && !line.starts_with(head)) {
+  }
+  std::getline(text, line);  // the rule under the headings
+  while (std::getline(text, line) && line.starts_with("|")) {
+    const auto cells = Cells(line);
+    if (cells.size() < kColumns || Quoted(cells[kRoom]).empty()) continue;
+    const auto chief = Quoted(cells[kChief]);
+    rows.push_back({Quoted(cells[kRoom]).front(), chief.empty() ? "" : chief.front(),
+                    Quoted(cells[kMayInclude])});
+  }
+  return rows;
+}
+
 }  // namespace
 
 std::string RoomOf(std::string_view path) { return std::string(path.substr(0, path.find('/'))); }
@@ -92,23 +112,13 @@ std::string ReadProjectFile(std::string_view path) {
 
 bool ProjectHas(std::string_view path) { return fs::exists(kRoot / path); }
 
-std::vector<MapRow> Map() {
-  // | `core` | what it owns | `core/molecule.h` | `runtime`, `controls` |
-  constexpr std::size_t kRoom = 0, kChief = 2, kMayInclude = 3, kColumns = 4;
-  std::vector<MapRow> rows;
-  std::istringstream text(ReadProjectFile("docs/architecture.md"));
-  std::string line;
-  while (std::getline(text, line) && !line.starts_with("| Folder |")) {
-  }
-  std::getline(text, line);  // the rule under the headings
-  while (std::getline(text, line) && line.starts_with("|")) {
-    const auto cells = Cells(line);
-    if (cells.size() < kColumns || Quoted(cells[kRoom]).empty()) continue;
-    const auto chief = Quoted(cells[kChief]);
-    rows.push_back({Quoted(cells[kRoom]).front(), chief.empty() ? "" : chief.front(),
-                    Quoted(cells[kMayInclude])});
-  }
-  return rows;
+std::string PartOf(std::string_view path) {
+  const auto first = path.find('/'), second = path.find('/', first + 1);
+  if (first == path.npos || second == path.npos) return "";
+  return std::string(path.substr(first + 1, second - first - 1));
 }
+
+std::vector<MapRow> Map() { return RowsUnder("| Folder |"); }
+std::vector<MapRow> MapOfDesktop() { return RowsUnder("| Part |"); }
 
 }  // namespace orvane::house

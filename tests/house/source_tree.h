@@ -42,4 +42,10 @@ struct MapRow {
 };
 std::vector<MapRow> Map();
 
+// The same of the table of the folders of `src/desktop` there: rooms are "look", "widgets".
+std::vector<MapRow> MapOfDesktop();
+
+// "widgets" of "desktop/widgets/plate.h"; empty where there is no folder in the room.
+std::string PartOf(std::string_view path);
+
 }  // namespace orvane::house

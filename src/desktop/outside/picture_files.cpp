@@ -9,10 +9,7 @@
 #include <QStandardPaths>
 
 #include "controls/surface.h"
-#include "desktop/widgets/control_view.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
-#include "look/palette.h"
+#include "desktop/outside/screen.h"
 #include "output/atomic_file.h"
 #include "output/picture_gif.h"
 #include "runtime/failure.h"
@@ -23,31 +20,13 @@ namespace {
 
 constexpr int kJpegQuality = 75;
 
-QImage Rastered(Skin& skin, const Picture& picture, QSize size) {
+QImage Rastered(Screen& screen, const Picture& picture, QSize size) {
   if (size.isEmpty()) size = QSize(picture.Width, picture.Height);
   QImage image(size, QImage::Format_RGB32);
   if (image.isNull()) FailMemory();
-  skin.raster.Paint(picture, static_cast<double>(size.width()) / picture.Width,
-                    reinterpret_cast<std::uint32_t*>(image.bits()), size.width(), size.height(),
-                    static_cast<int>(image.bytesPerLine() / 4));
-  return image;
-}
-
-// The control's face alone: its widget may be larger by what is painted round it. The face's corner
-// is a whole device pixel and the widget's need not be one, so the painter is moved to the face
-// before anything is painted, and each part comes onto the pixels that it has on the screen. Round
-// corners show the frame that surrounds the picture.
-QImage Grabbed(Skin& skin, Control& source) {
-  WindowWidget& window = skin.WindowOf(source.Owner);
-  const ControlView* view = window.ViewOf(source);
-  const Sight::Leaving leaving(skin.sight);
-  if (view == nullptr) return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
-  QImage image(view->Stand().Face.size(), QImage::Format_RGB32);
-  image.setDevicePixelRatio(window.scale.Ratio);
-  image.fill(palette::kBezel);
-  QPainter painter(&image);
-  painter.translate(-view->FaceInWidget().topLeft());
-  view->widget.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+  screen.raster.Paint(picture, static_cast<double>(size.width()) / picture.Width,
+                      reinterpret_cast<std::uint32_t*>(image.bits()), size.width(), size.height(),
+                      static_cast<int>(image.bytesPerLine() / 4));
   return image;
 }
 
@@ -108,15 +87,14 @@ std::string PictureFolder(const std::string& program_folder) {
   return own.toStdString();
 }
 
-QImage PictureOf(Skin& skin, Control& source) {
+QImage PictureOf(Screen& screen, Control& source) {
   const auto* surface = dynamic_cast<const PictureBox*>(&source);
-  if (surface == nullptr) return Grabbed(skin, source);
-  const ControlView* view = skin.WindowOf(source.Owner).ViewOf(source);
-  return Rastered(skin, *surface->Image(), view->Stand().Face.size());
+  if (surface == nullptr) return screen.Grab(source);
+  return Rastered(screen, *surface->Image(), screen.SizeOf(source));
 }
 
-void SavePictureFile(Skin& skin, const SaveRequest& request, const std::string& folder) {
-  const QImage image = PictureOf(skin, *request.Source);
+void SavePictureFile(Screen& screen, const SaveRequest& request, const std::string& folder) {
+  const QImage image = PictureOf(screen, *request.Source);
   if (image.isNull()) FailMemory();
   WriteAside(folder, request.Name, BytesOf(request, folder, image));
 }

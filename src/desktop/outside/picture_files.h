@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-class Skin;
+class Screen;
 
 // Where pictures go: the folder of the program, or, where the user may not write there, a folder of
 // their own among their pictures, which is made when it is first needed.
@@ -17,9 +17,9 @@ std::string PictureFolder(const std::string& program_folder);
 
 // What `source` shows. A surface's strokes are rastered at the size that they have on the screen,
 // also while it is hidden; anything else is taken as its widgets paint it.
-QImage PictureOf(Skin& skin, Control& source);
+QImage PictureOf(Screen& screen, Control& source);
 
 // Writes the picture into that folder and nowhere else, or ends in FailPlatform.
-void SavePictureFile(Skin& skin, const SaveRequest& request, const std::string& folder);
+void SavePictureFile(Screen& screen, const SaveRequest& request, const std::string& folder);
 
 }  // namespace orvane

@@ -8,8 +8,7 @@
 
 #include "controls/kinds.h"
 #include "desktop/look/fonts.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/outside/screen.h"
 #include "look/page_captions.h"
 #include "look/palette.h"
 #include "runtime/no_memory.h"
@@ -68,16 +67,17 @@ void DrawCaption(QPainter& painter, const Sheet& sheet, const Control& control) 
   }
 }
 
-void DrawPicture(QPainter& painter, const Sheet& sheet, int dots, Skin& skin, const ImageBox& box) {
+void DrawPicture(QPainter& painter, const Sheet& sheet, int dots, Screen& screen,
+                 const ImageBox& box) {
   const auto& picture = box.Shown();
   if (picture == nullptr || picture->Width == 0) return;
   const QRectF at = sheet.On(box.At);
   const int width = ImagePixels(at.width(), dots), height = ImagePixels(at.height(), dots);
   QImage image(width, height, QImage::Format_RGB32);
   if (image.isNull()) FailMemory();
-  skin.raster.Paint(*picture, static_cast<double>(width) / picture->Width,
-                    reinterpret_cast<std::uint32_t*>(image.bits()), width, height,
-                    static_cast<int>(image.bytesPerLine() / 4));
+  screen.raster.Paint(*picture, static_cast<double>(width) / picture->Width,
+                      reinterpret_cast<std::uint32_t*>(image.bits()), width, height,
+                      static_cast<int>(image.bytesPerLine() / 4));
   painter.drawImage(at, image);
 }
 
@@ -89,7 +89,8 @@ void PreparePainter(QPainter& painter) {
 
 }  // namespace
 
-void DrawPrintPage(QPainter& painter, const QRectF& paper, int dots, Skin& skin, PrintPage& page) {
+void DrawPrintPage(QPainter& painter, const QRectF& paper, int dots, Screen& screen,
+                   PrintPage& page) {
   PreparePainter(painter);
   const Sheet sheet = SheetOf(paper, page.Row.At);
   painter.fillRect(sheet.Area, Qt::white);
@@ -97,27 +98,19 @@ void DrawPrintPage(QPainter& painter, const QRectF& paper, int dots, Skin& skin,
     if (!Shows(*control)) continue;
     DrawCaption(painter, sheet, *control);
     if (const auto* box = dynamic_cast<const ImageBox*>(control)) {
-      DrawPicture(painter, sheet, dots, skin, *box);
+      DrawPicture(painter, sheet, dots, screen, *box);
     }
   }
 }
 
-void DrawWindow(QPainter& painter, const QRectF& paper, int dots, Skin& skin, Window& window) {
+void DrawWindow(QPainter& painter, const QRectF& paper, int dots, Screen& screen, Window& window) {
   PreparePainter(painter);
   const Sheet sheet = SheetOf(paper, window.Row.At);
-  WindowWidget again(skin, window);
-  const double ratio = again.devicePixelRatioF();
-  again.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);  // paper may be larger than the screen
-  again.resize(static_cast<int>(std::lround(ImagePixels(sheet.Area.width(), dots) / ratio)),
-               static_cast<int>(std::lround(ImagePixels(sheet.Area.height(), dots) / ratio)));
-  // A maximised window shows its plan as large as it is. A change of size would end that state.
-  again.setWindowState(Qt::WindowMaximized);
-  again.LayAll();
-  const Sight::Leaving leaving(skin.sight);
-  painter.drawImage(sheet.Area, again.grab().toImage());
+  const QSize size(ImagePixels(sheet.Area.width(), dots), ImagePixels(sheet.Area.height(), dots));
+  painter.drawImage(sheet.Area, screen.GrabAs(window, size));
 }
 
-bool PrintOnPaper(Skin& skin, Window& window) {
+bool PrintOnPaper(Screen& screen, Window& window) {
   const QPrinterInfo chosen = QPrinterInfo::defaultPrinter();
   if (chosen.isNull()) return false;
   QPrinter printer(chosen, QPrinter::HighResolution);
@@ -126,9 +119,9 @@ bool PrintOnPaper(Skin& skin, Window& window) {
   if (!printer.isValid() || !painter.begin(&printer)) return false;
   const QRectF paper(QPointF(0, 0), printer.pageRect(QPrinter::DevicePixel).size());
   if (auto* page = dynamic_cast<PrintPage*>(&window)) {
-    DrawPrintPage(painter, paper, printer.resolution(), skin, *page);
+    DrawPrintPage(painter, paper, printer.resolution(), screen, *page);
   } else {
-    DrawWindow(painter, paper, printer.resolution(), skin, window);
+    DrawWindow(painter, paper, printer.resolution(), screen, window);
   }
   return painter.end() && printer.printerState() != QPrinter::Error;
 }

@@ -79,10 +79,10 @@ void QtPlatform::EndProgram() {
 }
 
 void QtPlatform::SavePicture(const SaveRequest& request) {
-  SavePictureFile(*skin, request, PictureFolder(ProgramFolder()));
+  SavePictureFile(*screen, request, PictureFolder(ProgramFolder()));
 }
 
-bool QtPlatform::PrintWindow(Window& page) { return PrintOnPaper(*skin, page); }
+bool QtPlatform::PrintWindow(Window& page) { return PrintOnPaper(*screen, page); }
 
 std::string QtPlatform::ProgramFolder() {
   return QCoreApplication::applicationDirPath().toStdString();

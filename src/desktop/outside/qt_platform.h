@@ -11,7 +11,7 @@
 
 namespace orvane {
 
-class Skin;
+class Screen;
 
 class QtPlatform : public Platform {
  public:
@@ -33,7 +33,7 @@ class QtPlatform : public Platform {
   bool SoundIsOpen() override;
   int SoundLength() override;
 
-  Skin* skin = nullptr;                        // shows what is saved and printed
+  Screen* screen = nullptr;                    // shows what is saved and printed
   bool BoxIsUp() const { return boxes_ > 0; }  // meanwhile no timer ticks
 
  private:

@@ -4,7 +4,8 @@
 #include "desktop/reader/accessible_widget.h"
 #include "desktop/reader/accessible_words.h"
 #include "desktop/widgets/control_view.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/ground.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 namespace {
@@ -30,8 +31,8 @@ QAccessibleInterface* OfView(ControlView& view) {
 
 QAccessibleInterface* Make(const QString&, QObject* object) {
   if (auto* view = dynamic_cast<ControlView*>(object)) return OfView(*view);
-  if (auto* window = dynamic_cast<WindowWidget*>(object)) {
-    return new AccessibleWidget(window, QAccessible::Window);
+  if (dynamic_cast<Host*>(object) != nullptr) {
+    return new AccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Window);
   }
   if (auto* ground = dynamic_cast<Ground*>(object)) {
     return new AccessibleWidget(ground, QAccessible::Pane);

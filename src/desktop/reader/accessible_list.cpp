@@ -10,12 +10,6 @@ namespace {
 // What Enter and a double click do, where they do more than choosing.
 QString OpenAction() { return QStringLiteral("Open"); }
 
-void Tell(RowList& list, QAccessible::Event kind, int row) {
-  QAccessibleEvent event(&list, kind);
-  event.setChild(row);
-  QAccessible::updateAccessibility(&event);
-}
-
 }  // namespace
 
 AccessibleList::~AccessibleList() {
@@ -109,20 +103,6 @@ void AccessibleRow::doAction(const QString& name) {
     list->Choose(row);
     if (opens && row < list->Rows().size()) list->ChooseTwice(row);
   });
-}
-
-void TellChosen(RowList& list, int before, int now) {
-  if (before == now || !QAccessible::isActive()) return;
-  if (before >= 0 && before < list.Rows().size()) Tell(list, QAccessible::SelectionRemove, before);
-  if (now < 0) return;
-  Tell(list, QAccessible::Selection, now);
-  TellKeyboardAtRow(list);
-}
-
-void TellKeyboardAtRow(RowList& list) {
-  if (QAccessible::isActive() && list.hasFocus() && list.ChosenRow() >= 0) {
-    Tell(list, QAccessible::Focus, list.ChosenRow());
-  }
 }
 
 }  // namespace orvane

@@ -56,9 +56,4 @@ class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInter
   const AccessibleList& list_;
 };
 
-// Another row was chosen, -1 for none.
-void TellChosen(RowList& list, int before, int now);
-// The keyboard has come to the list: the reader is led on to its row.
-void TellKeyboardAtRow(RowList& list);
-
 }  // namespace orvane

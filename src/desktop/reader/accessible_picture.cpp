@@ -2,8 +2,7 @@
 
 #include "commands/desk_keys.h"
 #include "desktop/widgets/control_view.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 namespace {
@@ -43,7 +42,7 @@ QStringList AccessiblePicture::keyBindingsForAction(const QString& name) const {
 
 void AccessiblePicture::Do(const QString& name) {
   const DeskKey* key = StepOf(name);
-  if (key != nullptr && View() != nullptr) key->Do(View()->host.skin.desk);
+  if (key != nullptr && View() != nullptr) key->Do(View()->host.desk);
 }
 
 }  // namespace orvane

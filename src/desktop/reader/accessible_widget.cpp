@@ -8,8 +8,8 @@
 #include "desk/press_life.h"
 #include "desktop/widgets/control_view.h"
 #include "desktop/widgets/flyout.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
+#include "desktop/widgets/tell_reader.h"
 #include "narration/spoken_words.h"
 
 namespace orvane {
@@ -43,8 +43,6 @@ QAccessible::Role ToolkitRole(SpokenRole spoken) {
   }
   return QAccessible::StaticText;
 }
-
-bool IsSwitch(SpokenRole role) { return role == SpokenRole::Toggle || role == SpokenRole::Choice; }
 
 bool IsPassedOver(QWidget* widget) {
   if (widget->isWindow() || dynamic_cast<Flyout*>(widget) != nullptr) return true;
@@ -100,7 +98,7 @@ ControlView* AccessibleControl::View() const { return dynamic_cast<ControlView*>
 QString AccessibleControl::text(QAccessible::Text which) const {
   const ControlView* view = View();
   if (view == nullptr) return AccessibleWidget::text(which);
-  const Orvane_Desk& desk = view->host.skin.desk;
+  const Orvane_Desk& desk = view->host.desk;
   switch (which) {
     case QAccessible::Name:
       return QString::fromStdString(NameNow(desk, view->control));
@@ -161,25 +159,7 @@ void AccessibleControl::doAction(const QString& name) {
 }
 
 void AccessibleControl::Do(const QString&) {
-  if (ControlView* view = View()) PressAndClickInTheMiddle(view->host.skin.desk, view->control);
-}
-
-void TellState(ControlView& view) {
-  if (!QAccessible::isActive() || !IsSwitch(RoleOf(view.control))) return;
-  QAccessible::State turned;
-  turned.checked = true;
-  QAccessibleStateChangeEvent event(&view.widget, turned);
-  QAccessible::updateAccessibility(&event);
-}
-
-// Readers speak a notice when it comes to be seen. The alert is for the systems that have one.
-void Announce(ControlView& view) {
-  const bool heard = QAccessible::isActive() && RoleOf(view.control) == SpokenRole::Result;
-  if (!heard || view.control.Caption.Get().empty() || !view.widget.isVisible()) return;
-  for (const QAccessible::Event kind : {QAccessible::ObjectShow, QAccessible::Alert}) {
-    QAccessibleEvent event(&view.widget, kind);
-    QAccessible::updateAccessibility(&event);
-  }
+  if (ControlView* view = View()) PressAndClickInTheMiddle(view->host.desk, view->control);
 }
 
 }  // namespace orvane

@@ -45,10 +45,6 @@ class AccessibleControl : public AccessibleWidget {
   const SpokenRole role_;
 };
 
-// The reader of a screen hears: the state of a toggle, a result by itself.
-void TellState(ControlView& view);
-void Announce(ControlView& view);
-
 // From now on the house's widgets are read as above.
 void InstallAccessibleWidgets();
 

@@ -5,9 +5,9 @@
 #include <QAccessible>
 
 #include "controls/spoken.h"
+#include "desk/orvane_desk.h"
 #include "desktop/widgets/control_view.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 #include "narration/atom_walk.h"
 #include "narration/spoken_words.h"
 
@@ -18,7 +18,7 @@ constexpr int kSoon = 30;  // milliseconds
 
 // Gives the widget its words of this moment, which tells readers. True: they are others.
 bool Renew(ControlView& view) {
-  const Orvane_Desk& desk = view.host.skin.desk;
+  const Orvane_Desk& desk = view.host.desk;
   const QString name = QString::fromStdString(NameNow(desk, view.control));
   const QString description = QString::fromStdString(DescriptionNow(desk, view.control));
   const bool named = view.widget.accessibleName() != name;
@@ -52,7 +52,8 @@ void Announcer::Say(const QString& words) {
   }
 }
 
-AccessibleWords::AccessibleWords(Skin& skin) : skin_(skin) {
+AccessibleWords::AccessibleWords(Orvane_Desk& desk, HostOf host_of)
+    : desk_(desk), host_of_(std::move(host_of)) {
   soon_.setSingleShot(true);
   soon_.setInterval(kSoon);
   QObject::connect(&soon_, &QTimer::timeout, &soon_, [this] { Tell(); });
@@ -60,26 +61,26 @@ AccessibleWords::AccessibleWords(Skin& skin) : skin_(skin) {
 
 void AccessibleWords::Soon(const Window& where) {
   if (!QAccessible::isActive()) return;
-  desk_ = desk_ || &where == &skin_.desk.main;
-  map_ = map_ || &where == &skin_.desk.plot;
-  if ((desk_ || map_) && !soon_.isActive()) soon_.start();
+  on_desk_ = on_desk_ || &where == &desk_.main;
+  map_ = map_ || &where == &desk_.plot;
+  if ((on_desk_ || map_) && !soon_.isActive()) soon_.start();
 }
 
 void AccessibleWords::Tell() {
-  if (std::exchange(desk_, false)) TellPicture();
+  if (std::exchange(on_desk_, false)) TellPicture();
   if (std::exchange(map_, false)) TellMap();
 }
 
 void AccessibleWords::Say(Window& where, const QString& words) {
   QPointer<Announcer>& announcer = announcers_[&where];
-  if (announcer == nullptr) announcer = new Announcer(skin_.WindowOf(where).Desk());
+  if (announcer == nullptr) announcer = new Announcer(host_of_(where).Desk());
   announcer->Say(words);
 }
 
 void AccessibleWords::TellPicture() {
-  Orvane_Desk& desk = skin_.desk;
+  Orvane_Desk& desk = desk_;
   if (!desk.main.Visible) return;  // nobody looks, and the window may not have been made
-  WindowWidget& window = skin_.WindowOf(desk.main);
+  Host& window = host_of_(desk.main);
   ControlView& picture = *window.ViewOf(desk.main.Picture1);
   const QString before = picture.widget.accessibleName();
   const bool told = Renew(picture);
@@ -94,15 +95,15 @@ void AccessibleWords::TellPicture() {
 }
 
 void AccessibleWords::TellMap() {
-  if (!skin_.desk.plot.Visible) return;
+  if (!desk_.plot.Visible) return;
   QStringList names;
-  for (const Control* control : skin_.desk.plot.Controls) {
+  for (const Control* control : desk_.plot.Controls) {
     if (IsNameOnMap(*control) && control->IsOpenToUser()) {
       names.append(QString::fromStdString(SpokenName(*control)));
     }
   }
   const QString before = std::exchange(on_map_, names.join(QStringLiteral(", ")));
-  if (!on_map_.isEmpty() && on_map_ != before) Say(skin_.desk.plot, on_map_);
+  if (!on_map_.isEmpty() && on_map_ != before) Say(desk_.plot, on_map_);
 }
 
 }  // namespace orvane

@@ -2,6 +2,7 @@
 // stands and which names come up on the map, whenever that changes.
 #pragma once
 
+#include <functional>
 #include <unordered_map>
 
 #include <QPointer>
@@ -12,7 +13,8 @@
 
 namespace orvane {
 
-class Skin;
+class Host;
+struct Orvane_Desk;
 
 // Nothing to be seen: readers speak a notice that comes to be shown, wherever the keyboard is.
 class Announcer : public QWidget {
@@ -23,7 +25,9 @@ class Announcer : public QWidget {
 
 class AccessibleWords {
  public:
-  explicit AccessibleWords(Skin& skin);
+  using HostOf = std::function<Host&(Window&)>;  // the window on the screen, made if need be
+
+  AccessibleWords(Orvane_Desk& desk, HostOf host_of);
 
   // Something on the desk has changed. Many changes of one command are told once.
   void Soon(const Window& where);
@@ -34,10 +38,11 @@ class AccessibleWords {
   void TellMap();
   void Say(Window& where, const QString& words);
 
-  Skin& skin_;
+  Orvane_Desk& desk_;
+  HostOf host_of_;
   QTimer soon_;
-  bool desk_ = false, map_ = false;  // where something has changed
-  QString on_map_;                   // names on the map when it was last told of
+  bool on_desk_ = false, map_ = false;  // where something has changed
+  QString on_map_;                      // names on the map when it was last told of
   std::unordered_map<const Window*, QPointer<Announcer>> announcers_;  // made for the first reader
 };
 

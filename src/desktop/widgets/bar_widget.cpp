@@ -6,8 +6,7 @@
 #include <QSignalBlocker>
 
 #include "desk/actions.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 #include "look/measures.h"
 #include "look/palette.h"
 
@@ -18,7 +17,7 @@ using namespace measures;
 
 }  // namespace
 
-BarWidget::BarWidget(WindowWidget& owner, ScrollBar& shown, QWidget& parent)
+BarWidget::BarWidget(Host& owner, ScrollBar& shown, QWidget& parent)
     : Viewed(owner, shown, parent),
       bar_(shown),
       lies_(shown.At.Get().Width > shown.At.Get().Height) {
@@ -29,7 +28,7 @@ BarWidget::BarWidget(WindowWidget& owner, ScrollBar& shown, QWidget& parent)
   setValue(bar_.Value);
   // A screen reader sets the value by itself; every other way goes through the bar.
   connect(this, &QAbstractSlider::valueChanged, this,
-          [this](int set) { StepBar(host.skin.desk, bar_, set); });
+          [this](int set) { StepBar(host.desk, bar_, set); });
 }
 
 void BarWidget::Take(Aspect aspect) {
@@ -105,7 +104,7 @@ void BarWidget::PaintArrow(QPainter& painter, const QRect& face, bool at_end) {
   (void)face;
 }
 
-void BarWidget::StepBy(int step) { StepBar(host.skin.desk, bar_, bar_.Value + step); }
+void BarWidget::StepBy(int step) { StepBar(host.desk, bar_, bar_.Value + step); }
 
 void BarWidget::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
@@ -131,7 +130,7 @@ void BarWidget::mouseMoveEvent(QMouseEvent* event) {
   const int value =
       bar_.Range.Min + static_cast<int>(std::lround(part * (bar_.Range.Max - bar_.Range.Min)));
   const int reached = std::clamp(value, bar_.Range.Min, bar_.Range.Max);
-  if (reached != bar_.Value) DragBar(host.skin.desk, bar_, reached);
+  if (reached != bar_.Value) DragBar(host.desk, bar_, reached);
 }
 
 void BarWidget::mouseReleaseEvent(QMouseEvent* event) {
@@ -141,7 +140,7 @@ void BarWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (!dragging_) return;
   dragging_ = false;
   update();
-  DropBar(host.skin.desk, bar_);
+  DropBar(host.desk, bar_);
 }
 
 void BarWidget::timerEvent(QTimerEvent* event) {
@@ -175,10 +174,10 @@ void BarWidget::keyPressEvent(QKeyEvent* event) {
       StepBy(range.LargeStep);
       break;
     case Qt::Key_Home:
-      StepBar(host.skin.desk, bar_, range.Min);
+      StepBar(host.desk, bar_, range.Min);
       break;
     case Qt::Key_End:
-      StepBar(host.skin.desk, bar_, range.Max);
+      StepBar(host.desk, bar_, range.Max);
       break;
     default:
       event->ignore();

@@ -13,7 +13,7 @@ namespace orvane {
 
 class BarWidget : public Viewed<QAbstractSlider> {
  public:
-  BarWidget(WindowWidget& owner, ScrollBar& shown, QWidget& parent);
+  BarWidget(Host& owner, ScrollBar& shown, QWidget& parent);
 
   void Take(Aspect aspect) override;
   QRectF ThumbInWidget() const;  // in the widget's pixels

@@ -4,9 +4,8 @@
 
 #include "desk/actions.h"
 #include "desk/press_life.h"
-#include "desktop/reader/accessible_widget.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
+#include "desktop/widgets/tell_reader.h"
 #include "look/palette.h"
 #include "narration/spoken_words.h"
 
@@ -41,7 +40,7 @@ int ButtonsOf(Qt::MouseButtons buttons) {
 
 }  // namespace
 
-ControlView::ControlView(WindowWidget& owner, Control& shown, QWidget& own)
+ControlView::ControlView(Host& owner, Control& shown, QWidget& own)
     : control(shown), widget(own), host(owner) {
   widget.setObjectName(Text(control.FullName()));
   widget.setToolTip(Text(control.Row.Tip));
@@ -50,7 +49,7 @@ ControlView::ControlView(WindowWidget& owner, Control& shown, QWidget& own)
 }
 
 void ControlView::Begin() {
-  const Orvane_Desk& desk = host.skin.desk;
+  const Orvane_Desk& desk = host.desk;
   widget.setAccessibleName(Text(NameNow(desk, control)));
   widget.setAccessibleDescription(Text(DescriptionNow(desk, control)));
   widget.setEnabled(control.Enabled);
@@ -75,7 +74,7 @@ void ControlView::Take(Aspect aspect) {
       widget.setFocus();
       break;
     case Aspect::Caption:
-      widget.setAccessibleName(Text(NameNow(host.skin.desk, control)));
+      widget.setAccessibleName(Text(NameNow(host.desk, control)));
       TellState(*this);
       Announce(*this);
       break;
@@ -113,7 +112,7 @@ void ControlView::Hear(QEvent& event) {
       host.PointerOver(control);
       break;
     case QEvent::FocusIn:
-      FocusComes(host.skin.desk, control);
+      FocusComes(host.desk, control);
       break;
     default:
       break;

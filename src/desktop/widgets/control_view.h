@@ -12,20 +12,19 @@
 
 namespace orvane {
 
+class Host;
 class PressLife;
-class Skin;
-class WindowWidget;
 
 class ControlView {
  public:
-  ControlView(WindowWidget& window, Control& shown, QWidget& own);
+  ControlView(Host& window, Control& shown, QWidget& own);
   virtual ~ControlView() = default;
   ControlView(const ControlView&) = delete;
   ControlView& operator=(const ControlView&) = delete;
 
   Control& control;
   QWidget& widget;
-  WindowWidget& host;
+  Host& host;
 
   // Takes over what the control is, once the widget is whole: from then on a screen reader may ask.
   void Begin();
@@ -57,7 +56,7 @@ class ControlView {
 template <class Base>
 class Viewed : public Base, public ControlView {
  public:
-  Viewed(WindowWidget& owner, Control& shown, QWidget& parent)
+  Viewed(Host& owner, Control& shown, QWidget& parent)
       : Base(&parent), ControlView(owner, shown, *this) {}
 
  protected:

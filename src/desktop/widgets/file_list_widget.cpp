@@ -10,8 +10,7 @@
 #include "commands/chooser_folder.h"
 #include "desk/actions.h"
 #include "desktop/look/fonts.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 #include "look/measures.h"
 #include "look/palette.h"
 
@@ -22,13 +21,13 @@ QString PathOf(const FileList& list) { return QString::fromStdString(list.Path);
 
 }  // namespace
 
-ControlView* MakeFileList(WindowWidget& window, FileList& list, QWidget& parent) {
+ControlView* MakeFileList(Host& window, FileList& list, QWidget& parent) {
   if (list.Name == "Drive1") return new DriveWidget(window, list, parent);
   if (list.Name == "Dir1") return new FolderList(window, list, parent);
   return new SoundFileList(window, list, parent);
 }
 
-DriveWidget::DriveWidget(WindowWidget& owner, FileList& shown, QWidget& parent)
+DriveWidget::DriveWidget(Host& owner, FileList& shown, QWidget& parent)
     : Viewed(owner, shown, parent), list_(shown) {}
 
 QString DriveWidget::Path() const { return PathOf(list_); }
@@ -54,7 +53,7 @@ void DriveWidget::showEvent(QShowEvent* event) {
 }
 
 void DriveWidget::Choose(const QString& path) {
-  OpenFolder(host.skin.desk, list_, path.toStdString());
+  OpenFolder(host.desk, list_, path.toStdString());
   update();
 }
 
@@ -106,7 +105,7 @@ void DriveWidget::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-FolderRowList::FolderRowList(WindowWidget& owner, FileList& shown, QWidget& parent)
+FolderRowList::FolderRowList(Host& owner, FileList& shown, QWidget& parent)
     : RowList(owner, shown, parent), list_(shown) {
   has_keys_ = joined_ = false;
   edge_ = palette::kEdge;
@@ -118,7 +117,7 @@ void FolderRowList::Take(Aspect aspect) {
   if (aspect == Aspect::Rows) ReadFolder();
 }
 
-FolderList::FolderList(WindowWidget& owner, FileList& shown, QWidget& parent)
+FolderList::FolderList(Host& owner, FileList& shown, QWidget& parent)
     : FolderRowList(owner, shown, parent) {
   ReadFolder();
 }
@@ -138,10 +137,10 @@ void FolderList::ReadFolder() {
 void FolderList::Choose(int row) { SetChosen(row); }
 
 void FolderList::ChooseTwice(int row) {
-  OpenFolder(host.skin.desk, list_, paths_[static_cast<std::size_t>(row)]);
+  OpenFolder(host.desk, list_, paths_[static_cast<std::size_t>(row)]);
 }
 
-SoundFileList::SoundFileList(WindowWidget& owner, FileList& shown, QWidget& parent)
+SoundFileList::SoundFileList(Host& owner, FileList& shown, QWidget& parent)
     : FolderRowList(owner, shown, parent) {
   ReadFolder();
 }
@@ -167,9 +166,9 @@ void SoundFileList::Take(Aspect aspect) {
 }
 
 void SoundFileList::Choose(int row) {
-  ChooseFile(host.skin.desk, list_, names_[static_cast<std::size_t>(row)]);
+  ChooseFile(host.desk, list_, names_[static_cast<std::size_t>(row)]);
 }
 
-void SoundFileList::ChooseTwice(int) { DoubleClick(host.skin.desk, list_); }
+void SoundFileList::ChooseTwice(int) { DoubleClick(host.desk, list_); }
 
 }  // namespace orvane

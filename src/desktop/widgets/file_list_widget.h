@@ -7,12 +7,12 @@
 
 namespace orvane {
 
-ControlView* MakeFileList(WindowWidget& window, FileList& list, QWidget& parent);
+ControlView* MakeFileList(Host& window, FileList& list, QWidget& parent);
 
 // A closed list: the drive, and a menu of the others.
 class DriveWidget : public Viewed<QWidget> {
  public:
-  DriveWidget(WindowWidget& owner, FileList& shown, QWidget& parent);
+  DriveWidget(Host& owner, FileList& shown, QWidget& parent);
 
   static QStringList Drives();
   QString Path() const;  // of the open drive
@@ -33,7 +33,7 @@ class DriveWidget : public Viewed<QWidget> {
 // Rows that are read from the disk, anew when the control has another folder.
 class FolderRowList : public RowList {
  public:
-  FolderRowList(WindowWidget& owner, FileList& shown, QWidget& parent);
+  FolderRowList(Host& owner, FileList& shown, QWidget& parent);
 
   void Take(Aspect aspect) override;
 
@@ -46,7 +46,7 @@ class FolderRowList : public RowList {
 // A double click or Enter opens a folder.
 class FolderList : public FolderRowList {
  public:
-  FolderList(WindowWidget& owner, FileList& shown, QWidget& parent);
+  FolderList(Host& owner, FileList& shown, QWidget& parent);
 
   void Choose(int row) override;
   void ChooseTwice(int row) override;
@@ -60,7 +60,7 @@ class FolderList : public FolderRowList {
 // A click chooses a file; a double click or Enter is the control's double click.
 class SoundFileList : public FolderRowList {
  public:
-  SoundFileList(WindowWidget& owner, FileList& shown, QWidget& parent);
+  SoundFileList(Host& owner, FileList& shown, QWidget& parent);
 
   void Take(Aspect aspect) override;
 

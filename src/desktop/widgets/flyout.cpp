@@ -4,7 +4,7 @@
 
 #include "desktop/look/fonts.h"
 #include "desktop/widgets/control_view.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 #include "look/measures.h"
 #include "look/palette.h"
 
@@ -15,7 +15,7 @@ using namespace measures;
 
 }  // namespace
 
-Flyout::Flyout(WindowWidget& window, QWidget& desk) : QWidget(&desk), window_(window) {
+Flyout::Flyout(Host& window, QWidget& desk) : QWidget(&desk), window_(window) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
   setObjectName(QStringLiteral("Flyout"));
   hide();

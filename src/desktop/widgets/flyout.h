@@ -8,12 +8,12 @@
 
 namespace orvane {
 
-class WindowWidget;
+class Host;
 
 // Takes no pointer: what lies below goes on being under it.
 class Flyout : public QWidget {
  public:
-  Flyout(WindowWidget& window, QWidget& desk);
+  Flyout(Host& window, QWidget& desk);
 
   // `row` in device pixels of the desk; `key` stands before `rest`, in a heavier letter.
   void ShowRow(const void* owner, const QRect& row, const QString& key, const QString& rest);
@@ -25,7 +25,7 @@ class Flyout : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  WindowWidget& window_;
+  Host& window_;
   const void* owner_ = nullptr;
   QString key_, rest_, text_;
   Spot spot_;

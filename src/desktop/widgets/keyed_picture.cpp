@@ -2,9 +2,8 @@
 
 #include <QFocusEvent>
 
+#include "desktop/widgets/host.h"
 #include "desktop/widgets/walk_mark.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
 
 namespace orvane {
 
@@ -13,7 +12,7 @@ void KeyedPicture::paintEvent(QPaintEvent* event) {
   if (!hasFocus()) return;
   QPainter painter(this);
   const QRect face = EnterPixels(painter);
-  PaintWalkMark(painter, face, Unit(), host.skin.desk);
+  PaintWalkMark(painter, face, Unit(), host.desk);
   if (by_keys_) PaintPictureRing(painter, face, Unit());
 }
 

@@ -1,6 +1,6 @@
 #include "desktop/widgets/line_widget.h"
 
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 namespace {

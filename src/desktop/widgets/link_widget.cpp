@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "desktop/look/fonts.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 namespace {
@@ -12,8 +12,7 @@ constexpr double kRingOut = 4;  // pixels round the text
 
 }  // namespace
 
-LinkWidget::LinkWidget(WindowWidget& owner, Control& shown, QWidget& parent)
-    : Plate(owner, shown, parent) {
+LinkWidget::LinkWidget(Host& owner, Control& shown, QWidget& parent) : Plate(owner, shown, parent) {
   setCursor(Qt::PointingHandCursor);
 }
 

@@ -7,7 +7,7 @@ namespace orvane {
 
 class LinkWidget : public Plate {
  public:
-  LinkWidget(WindowWidget& owner, Control& shown, QWidget& parent);
+  LinkWidget(Host& owner, Control& shown, QWidget& parent);
 
   void Lay() override;  // as wide as its text, so that only the text is hit
 

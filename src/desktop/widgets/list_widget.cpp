@@ -1,12 +1,11 @@
 #include "desktop/widgets/list_widget.h"
 
 #include "desk/actions.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 
-ListWidget::ListWidget(WindowWidget& owner, List& shown, QWidget& parent)
+ListWidget::ListWidget(Host& owner, List& shown, QWidget& parent)
     : RowList(owner, shown, parent), list_(shown) {
   ReadControl();
 }
@@ -24,8 +23,8 @@ void ListWidget::Take(Aspect aspect) {
   if (aspect == Aspect::Value) SetChosen(list_.ListIndex);
 }
 
-void ListWidget::Choose(int row) { SelectRow(host.skin.desk, list_, row); }
+void ListWidget::Choose(int row) { SelectRow(host.desk, list_, row); }
 
-void ListWidget::ChooseTwice(int) { DoubleClick(host.skin.desk, list_); }
+void ListWidget::ChooseTwice(int) { DoubleClick(host.desk, list_); }
 
 }  // namespace orvane

@@ -8,7 +8,7 @@ namespace orvane {
 
 class ListWidget : public RowList {
  public:
-  ListWidget(WindowWidget& owner, List& shown, QWidget& parent);
+  ListWidget(Host& owner, List& shown, QWidget& parent);
 
   void Take(Aspect aspect) override;
 

@@ -1,6 +1,6 @@
 #include "desktop/widgets/map_area.h"
 
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 namespace {
@@ -10,7 +10,7 @@ constexpr QRgb kMapEdge = 0xFFA65A5F;
 }  // namespace
 
 // Its place may end between two of the toolkit's pixels, and what is not painted is the frame's.
-MapAreaWidget::MapAreaWidget(WindowWidget& owner, Control& shown, QWidget& parent)
+MapAreaWidget::MapAreaWidget(Host& owner, Control& shown, QWidget& parent)
     : PictureWidget(owner, shown, parent) {
   setAttribute(Qt::WA_OpaquePaintEvent, false);
 }

@@ -7,7 +7,7 @@ namespace orvane {
 
 class MapAreaWidget : public PictureWidget {
  public:
-  MapAreaWidget(WindowWidget& owner, Control& shown, QWidget& parent);
+  MapAreaWidget(Host& owner, Control& shown, QWidget& parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

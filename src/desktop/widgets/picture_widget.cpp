@@ -7,16 +7,16 @@
 
 #include "controls/kinds.h"
 #include "controls/surface.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/look/sight.h"
+#include "desktop/widgets/host.h"
 #include "look/palette.h"
 #include "runtime/failure.h"
 #include "runtime/no_memory.h"
 
 namespace orvane {
 
-PictureWidget::PictureWidget(WindowWidget& owner, Control& shown, QWidget& parent)
-    : Viewed(owner, shown, parent), life_(owner.skin.desk, shown) {
+PictureWidget::PictureWidget(Host& owner, Control& shown, QWidget& parent)
+    : Viewed(owner, shown, parent), life_(owner.desk, shown) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -26,7 +26,7 @@ void PictureWidget::Take(Aspect aspect) {
   if (!drawn) return ControlView::Take(aspect);
   stale_ = true;
   rest_tip_.Drop();
-  host.skin.RepaintSoon(*this);
+  host.RepaintSoon(*this);
 }
 
 void PictureWidget::Lay() {
@@ -47,9 +47,9 @@ void PictureWidget::PaintPixels() {
   if (pixels_.isNull() && !size.isEmpty()) FailMemory();
   const auto picture = Now();
   if (picture == nullptr || picture->Width == 0) return pixels_.fill(Qt::black);
-  host.skin.raster.Paint(*picture, static_cast<double>(size.width()) / picture->Width,
-                         reinterpret_cast<std::uint32_t*>(pixels_.bits()), size.width(),
-                         size.height(), static_cast<int>(pixels_.bytesPerLine() / 4));
+  host.raster.Paint(*picture, static_cast<double>(size.width()) / picture->Width,
+                    reinterpret_cast<std::uint32_t*>(pixels_.bits()), size.width(), size.height(),
+                    static_cast<int>(pixels_.bytesPerLine() / 4));
 }
 
 // The toolkit asks for it in the midst of its painting, and nothing may be thrown through that.
@@ -69,7 +69,7 @@ void PictureWidget::GoWithout() {
   pixels_ = QImage();
   if (std::exchange(told_, true)) return;
   QTimer::singleShot(0, this, [this] {
-    host.skin.platform.FailureBox(std::string("The picture could not be painted: ") + kNoMemory +
+    host.desk.platform.FailureBox(std::string("The picture could not be painted: ") + kNoMemory +
                                   ".");
   });
 }
@@ -90,8 +90,8 @@ void PictureWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QRect face = EnterPixels(painter);
   painter.setRenderHint(QPainter::Antialiasing, false);
-  const bool of_molecule = &control.Owner == &host.skin.desk.main;
-  painter.drawImage(face.topLeft(), of_molecule ? host.skin.sight.Shown(Pixels()) : Pixels());
+  const bool of_molecule = &control.Owner == &host.desk.main;
+  painter.drawImage(face.topLeft(), of_molecule ? host.sight.Shown(Pixels()) : Pixels());
 }
 
 void PictureWidget::mousePressEvent(QMouseEvent* event) { PassPress(life_, *event); }

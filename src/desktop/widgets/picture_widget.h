@@ -12,7 +12,7 @@ namespace orvane {
 
 class PictureWidget : public Viewed<QWidget> {
  public:
-  PictureWidget(WindowWidget& owner, Control& shown, QWidget& parent);
+  PictureWidget(Host& owner, Control& shown, QWidget& parent);
 
   void Take(Aspect aspect) override;
   void Lay() override;

@@ -6,8 +6,8 @@
 #include <QKeyEvent>
 
 #include "desktop/look/fonts.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/look/sight.h"
+#include "desktop/widgets/host.h"
 #include "look/measures.h"
 #include "look/plate_look.h"
 
@@ -21,8 +21,8 @@ QString CaptionOf(const Control& control) { return QString::fromStdString(contro
 
 }  // namespace
 
-Plate::Plate(WindowWidget& owner, Control& shown, QWidget& parent)
-    : Viewed(owner, shown, parent), dress_(DressOf(shown)), life_(owner.skin.desk, shown) {
+Plate::Plate(Host& owner, Control& shown, QWidget& parent)
+    : Viewed(owner, shown, parent), dress_(DressOf(shown)), life_(owner.desk, shown) {
   const ControlKind kind = shown.Row.Kind;
   if (kind == ControlKind::Ornament || kind == ControlKind::Line) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -101,7 +101,7 @@ void Plate::PaintSwatch(QPainter& painter, const QRect& face) {
   const double corner = dress_.Corner * Unit();
   const int edge = host.scale.Edge();
   // As the picture will show it.
-  const QRgb fill = host.skin.sight.Shown(qRgb(Red(colour), Green(colour), Blue(colour)));
+  const QRgb fill = host.sight.Shown(qRgb(Red(colour), Green(colour), Blue(colour)));
   PaintPlate(painter, face, fill, SwatchEdge(fill), corner, edge);
   if (HasRing() || underMouse()) {
     const double out = 2.5 * Unit();

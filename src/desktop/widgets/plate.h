@@ -13,7 +13,7 @@ namespace orvane {
 
 class Plate : public Viewed<QWidget> {
  public:
-  Plate(WindowWidget& owner, Control& shown, QWidget& parent);
+  Plate(Host& owner, Control& shown, QWidget& parent);
 
   void Take(Aspect aspect) override;
 

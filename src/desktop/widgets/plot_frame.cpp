@@ -6,7 +6,7 @@
 #include <QFontMetricsF>
 
 #include "desktop/look/plot_fonts.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 namespace {

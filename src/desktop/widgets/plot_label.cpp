@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "desktop/look/plot_fonts.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 namespace {
@@ -13,7 +13,7 @@ constexpr double kRoom = 6;  // pixels round a label's box, so that no letter is
 }  // namespace
 
 // The pointer is over the map, not over the names on it.
-PlotLabel::PlotLabel(WindowWidget& owner, Control& shown, QWidget& parent)
+PlotLabel::PlotLabel(Host& owner, Control& shown, QWidget& parent)
     : Plate(owner, shown, parent), letters_(PlotLettersOf(shown)) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }

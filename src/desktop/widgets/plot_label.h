@@ -8,7 +8,7 @@ namespace orvane {
 
 class PlotLabel : public Plate {
  public:
-  PlotLabel(WindowWidget& owner, Control& shown, QWidget& parent);
+  PlotLabel(Host& owner, Control& shown, QWidget& parent);
 
  protected:
   double Outset() const override;

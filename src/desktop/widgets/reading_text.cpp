@@ -5,7 +5,7 @@
 #include <QRegularExpression>
 
 #include "desktop/look/fonts.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 #include "look/plot_letters.h"
 
 namespace orvane {
@@ -71,13 +71,13 @@ void ReadingText::paintEvent(QPaintEvent*) {
   }
 }
 
-GreekLetter::GreekLetter(WindowWidget& owner, Control& shown, QWidget& parent)
+GreekLetter::GreekLetter(Host& owner, Control& shown, QWidget& parent)
     : Plate(owner, shown, parent) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
 void GreekLetter::Lay() {
-  for (const Control* other : host.shown.Controls) {
+  for (const Control* other : control.Owner.Controls) {
     const auto* text = dynamic_cast<ReadingText*>(host.ViewOf(*other));
     if (text != nullptr && !text->Gap().isEmpty()) gap_ = text->Gap();
   }

@@ -30,7 +30,7 @@ class ReadingText : public Plate {
 // The letter over the gap of the reading text in the same window.
 class GreekLetter : public Plate {
  public:
-  GreekLetter(WindowWidget& owner, Control& shown, QWidget& parent);
+  GreekLetter(Host& owner, Control& shown, QWidget& parent);
 
   void Lay() override;
 

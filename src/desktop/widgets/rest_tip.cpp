@@ -5,8 +5,7 @@
 #include <QGuiApplication>
 #include <QToolTip>
 
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 #include "narration/hover_words.h"
 
 namespace orvane {
@@ -14,8 +13,8 @@ namespace orvane {
 bool RestTip::Answer(const QHelpEvent& rest) {
   if (QGuiApplication::mouseButtons() != Qt::NoButton) return true;  // a drag is no rest
   const QPointF at = view_.SurfacePoint(rest.pos());
-  const std::string words = RestWords(view_.host.skin.desk, view_.control,
-                                      static_cast<float>(at.x()), static_cast<float>(at.y()));
+  const std::string words = RestWords(view_.host.desk, view_.control, static_cast<float>(at.x()),
+                                      static_cast<float>(at.y()));
   shown_ = QString::fromStdString(words);
   if (shown_.isEmpty()) return false;
   const int reach = std::max(1, static_cast<int>(kRestReach * view_.host.scale.Factor));

@@ -6,10 +6,10 @@
 #include <QTimer>
 
 #include "desktop/look/fonts.h"
-#include "desktop/reader/accessible_list.h"
 #include "desktop/widgets/flyout.h"
+#include "desktop/widgets/host.h"
 #include "desktop/widgets/reading_text.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/tell_reader.h"
 #include "look/palette.h"
 
 namespace orvane {
@@ -22,7 +22,7 @@ constexpr double kRounding = 0.1;  // pixels, of sixty-fourths, in a text that f
 
 }  // namespace
 
-RowList::RowList(WindowWidget& owner, Control& shown, QWidget& parent)
+RowList::RowList(Host& owner, Control& shown, QWidget& parent)
     : Viewed(owner, shown, parent), edge_(kListEdge) {}
 
 int RowList::WholeRows() const {

@@ -14,7 +14,7 @@ namespace orvane {
 
 class RowList : public Viewed<QWidget> {
  public:
-  RowList(WindowWidget& owner, Control& shown, QWidget& parent);
+  RowList(Host& owner, Control& shown, QWidget& parent);
 
   const QStringList& Rows() const { return rows_; }
   int ChosenRow() const { return chosen_; }

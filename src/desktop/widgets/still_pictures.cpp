@@ -1,7 +1,7 @@
 #include "desktop/widgets/still_pictures.h"
 
 #include "desktop/look/icon.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 
@@ -11,7 +11,7 @@ void IconWidget::paintEvent(QPaintEvent*) {
   PaintIcon(painter, face);
 }
 
-RoundPicture::RoundPicture(WindowWidget& owner, Control& shown, QWidget& parent)
+RoundPicture::RoundPicture(Host& owner, Control& shown, QWidget& parent)
     : PictureWidget(owner, shown, parent), dress_(DressOf(shown)) {
   setAttribute(Qt::WA_OpaquePaintEvent, false);
 }

@@ -18,7 +18,7 @@ class IconWidget : public Plate {
 // An image box with round corners and an edge.
 class RoundPicture : public PictureWidget {
  public:
-  RoundPicture(WindowWidget& owner, Control& shown, QWidget& parent);
+  RoundPicture(Host& owner, Control& shown, QWidget& parent);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -4,8 +4,7 @@
 
 #include "desk/actions.h"
 #include "desktop/look/fonts.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 #include "look/measures.h"
 #include "look/palette.h"
 
@@ -16,8 +15,8 @@ using namespace measures;
 
 }  // namespace
 
-TabWidget::TabWidget(WindowWidget& owner, Control& shown, QWidget& parent)
-    : Viewed(owner, shown, parent), life_(owner.skin.desk, shown) {}
+TabWidget::TabWidget(Host& owner, Control& shown, QWidget& parent)
+    : Viewed(owner, shown, parent), life_(owner.desk, shown) {}
 
 // The widget covers both while the caption is out, and the tab alone otherwise.
 void TabWidget::Lay() {
@@ -97,7 +96,7 @@ void TabWidget::mouseReleaseEvent(QMouseEvent* event) {
 void TabWidget::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (!enter && event->key() != Qt::Key_Space) return event->ignore();
-  Click(host.skin.desk, control);
+  Click(host.desk, control);
 }
 
 }  // namespace orvane

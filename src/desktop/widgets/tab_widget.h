@@ -9,7 +9,7 @@ namespace orvane {
 
 class TabWidget : public Viewed<QWidget> {
  public:
-  TabWidget(WindowWidget& owner, Control& shown, QWidget& parent);
+  TabWidget(Host& owner, Control& shown, QWidget& parent);
 
   void Lay() override;
   bool IsOut() const { return underMouse() || hasFocus(); }

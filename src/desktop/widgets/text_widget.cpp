@@ -5,8 +5,7 @@
 
 #include "desk/actions.h"
 #include "desktop/look/fonts.h"
-#include "desktop/windows/skin.h"
-#include "desktop/windows/window_widget.h"
+#include "desktop/widgets/host.h"
 #include "look/measures.h"
 #include "look/palette.h"
 
@@ -20,7 +19,7 @@ constexpr QRgb kMarks[] = {palette::kRedMark, palette::kGreenMark, palette::kBlu
 
 }  // namespace
 
-TextWidget::TextWidget(WindowWidget& owner, TextBox& shown, QWidget& parent)
+TextWidget::TextWidget(Host& owner, TextBox& shown, QWidget& parent)
     : Viewed(owner, shown, parent), box_(shown) {
   setFrame(false);
   QPalette colours = QWidget::palette();
@@ -31,7 +30,7 @@ TextWidget::TextWidget(WindowWidget& owner, TextBox& shown, QWidget& parent)
   setPalette(colours);
   setText(QString::fromStdString(box_.Text));
   connect(this, &QLineEdit::textEdited, this,
-          [this](const QString& typed) { TypeText(host.skin.desk, box_, typed.toStdString()); });
+          [this](const QString& typed) { TypeText(host.desk, box_, typed.toStdString()); });
 }
 
 void TextWidget::Take(Aspect aspect) {
@@ -71,7 +70,7 @@ void TextWidget::paintEvent(QPaintEvent* event) {
 // keyboard by then.
 void TextWidget::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  PressKey(host.skin.desk, control, enter ? kEnterKey : event->key());
+  PressKey(host.desk, control, enter ? kEnterKey : event->key());
   if (enter) return event->accept();
   QLineEdit::keyPressEvent(event);
 }

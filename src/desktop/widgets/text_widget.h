@@ -10,7 +10,7 @@ namespace orvane {
 
 class TextWidget : public Viewed<QLineEdit> {
  public:
-  TextWidget(WindowWidget& owner, TextBox& shown, QWidget& parent);
+  TextWidget(Host& owner, TextBox& shown, QWidget& parent);
 
   void Take(Aspect aspect) override;
   void Lay() override;

@@ -15,7 +15,7 @@
 namespace orvane {
 namespace {
 
-ControlView* MakePlotView(WindowWidget& window, Control& control, QWidget& parent) {
+ControlView* MakePlotView(Host& window, Control& control, QWidget& parent) {
   switch (control.Row.Kind) {
     case ControlKind::Frame:
       return new PlotFrame(window, control, parent);
@@ -35,7 +35,7 @@ ControlView* MakePlotView(WindowWidget& window, Control& control, QWidget& paren
 
 }  // namespace
 
-ControlView* MakeFurtherView(WindowWidget& window, Control& control, QWidget& parent) {
+ControlView* MakeFurtherView(Host& window, Control& control, QWidget& parent) {
   if (control.Owner.Name == "Ramachandran") return MakePlotView(window, control, parent);
   if (auto* list = dynamic_cast<FileList*>(&control)) return MakeFileList(window, *list, parent);
   switch (DressOf(control).Shape) {

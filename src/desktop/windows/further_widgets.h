@@ -6,6 +6,6 @@
 namespace orvane {
 
 // nullptr for a control that is shown by its kind alone.
-ControlView* MakeFurtherView(WindowWidget& window, Control& control, QWidget& parent);
+ControlView* MakeFurtherView(Host& window, Control& control, QWidget& parent);
 
 }  // namespace orvane

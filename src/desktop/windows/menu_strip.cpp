@@ -8,6 +8,7 @@
 
 #include "controls/spoken.h"
 #include "desk/actions.h"
+#include "desktop/look/spot.h"
 #include "desktop/windows/skin.h"
 #include "desktop/windows/window_widget.h"
 #include "look/measures.h"

@@ -33,7 +33,7 @@ std::unique_ptr<KeySheetWindow> MadeKeySheet(Sight& sight) {
 }  // namespace
 
 Skin::Skin(Orvane_Desk& of, QtPlatform& outside) : desk(of), platform(outside) {
-  platform.skin = this;
+  platform.screen = this;
   InstallAccessibleWidgets();
   beat_.setSingleShot(true);
   beat_.setTimerType(Qt::PreciseTimer);
@@ -47,7 +47,7 @@ Skin::Skin(Orvane_Desk& of, QtPlatform& outside) : desk(of), platform(outside) {
 }
 
 Skin::~Skin() {
-  platform.skin = nullptr;
+  platform.screen = nullptr;
   for (Window* window : desk.windows) window->Watcher = nullptr;
 }
 
@@ -95,6 +95,8 @@ WindowWidget& Skin::WindowOf(Window& window) {
   GiveSightItsKey(sight, *made, picture == nullptr ? *made : picture->widget);
   return *windows_.emplace(&window, std::move(made)).first->second;
 }
+
+Host& Skin::HostOf(Window& window) { return WindowOf(window); }
 
 QWidget* Skin::WidgetOf(const Control& control) {
   ControlView* view = WindowOf(control.Owner).ViewOf(control);

@@ -14,23 +14,23 @@
 #include "desk/orvane_desk.h"
 #include "desktop/look/sight.h"
 #include "desktop/outside/qt_platform.h"
+#include "desktop/outside/screen.h"
 #include "desktop/outside/ticker.h"
 #include "desktop/reader/accessible_words.h"
-#include "raster/raster.h"
 
 namespace orvane {
 
+class Host;
 class KeySheetWindow;
 class WindowWidget;
 
-class Skin : public ControlWatcher {
+class Skin : public ControlWatcher, public Screen {
  public:
   Skin(Orvane_Desk& desk, QtPlatform& platform);
   ~Skin() override;
 
   Orvane_Desk& desk;
   QtPlatform& platform;
-  Raster raster;  // shared by all pictures, for what it keeps between paints
   Sight sight{desk};
 
   void Changed(Control& control, Aspect aspect) override;
@@ -48,8 +48,13 @@ class Skin : public ControlWatcher {
   // drawn on.
   void RepaintSoon(QWidget& picture);
 
+  QSize SizeOf(Control& control) override;
+  QImage Grab(Control& control) override;
+  QImage GrabAs(Window& window, QSize size) override;
+
  private:
   void Come(Window& window);
+  Host& HostOf(Window& window);
   void SetTimer(Timer& timer);
   void TickOf(Timer& timer);
   void RepaintNow();
@@ -58,7 +63,7 @@ class Skin : public ControlWatcher {
   Window* gone_ = nullptr;  // the one that was hidden last
   std::unordered_map<const Timer*, std::unique_ptr<Ticker>> tickers_;
   std::unique_ptr<KeySheetWindow> sheet_;  // made when it is first asked for
-  AccessibleWords words_{*this};
+  AccessibleWords words_{desk, [this](Window& window) -> Host& { return HostOf(window); }};
   std::vector<QPointer<QWidget>> waiting_;  // pictures to paint at the next beat
   QTimer beat_;
   QElapsedTimer since_beat_;

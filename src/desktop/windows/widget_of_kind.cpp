@@ -14,7 +14,7 @@
 
 namespace orvane {
 
-ControlView* MakeView(WindowWidget& window, Control& control, QWidget& parent) {
+ControlView* MakeView(Host& window, Control& control, QWidget& parent) {
   if (ControlView* own = MakeFurtherView(window, control, parent)) return own;
   switch (control.Row.Kind) {
     case ControlKind::Timer:

@@ -8,6 +8,6 @@
 namespace orvane {
 
 // nullptr for kinds that are no widget: timers and menu entries.
-ControlView* MakeView(WindowWidget& window, Control& control, QWidget& parent);
+ControlView* MakeView(Host& window, Control& control, QWidget& parent);
 
 }  // namespace orvane

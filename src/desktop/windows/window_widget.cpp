@@ -48,27 +48,12 @@ Qt::CursorShape ShapeOf(int pointer) {
 
 }  // namespace
 
-Ground::Ground(WindowWidget& window) : QWidget(&window), window_(window) { setMouseTracking(true); }
-
-void Ground::paintEvent(QPaintEvent*) {
-  QPainter painter(this);
-  const WindowDress& dress = WindowDressOf(window_.shown.Name);
-  painter.fillRect(rect(), QColor::fromRgba(dress.Ground));
-  if (dress.Band > 0) {
-    EnterDevicePixels(painter, window_.scale, {{}, {}});
-    const QRect all = RectOf(window_.scale.Device({0, 0, window_.PlanWidth(), dress.Band}));
-    painter.fillRect(all, QColor::fromRgba(palette::kBezel));
-  }
-}
-
-void Ground::mouseMoveEvent(QMouseEvent*) { window_.PointerOver(window_.shown); }
-void Ground::mousePressEvent(QMouseEvent* event) { event->accept(); }
-
-WindowWidget::WindowWidget(Skin& of, Window& window) : skin(of), shown(window) {
+WindowWidget::WindowWidget(Skin& of, Window& window)
+    : Host(of.desk, of.raster, of.sight), skin(of), shown(window) {
   setObjectName(QString::fromStdString(shown.Name));
   setWindowTitle(QString::fromStdString(shown.Caption));
   FitTheScreen();
-  desk_ = new Ground(*this);
+  desk_ = new Ground(*this, *this, shown);
   flyout = new Flyout(*this, *desk_);
   MakeWidgets();
   SetTabOrder();
@@ -142,10 +127,10 @@ void WindowWidget::LayAll() {
                                   static_cast<double>(height()) / plan.height())
                        : NormalFactor();
   scale.Ratio = devicePixelRatioF();
-  const QSize desk(static_cast<int>(std::lround(plan.width() * scale.Factor)),
+  const QSize size(static_cast<int>(std::lround(plan.width() * scale.Factor)),
                    static_cast<int>(std::lround(plan.height() * scale.Factor)));
-  desk_->setGeometry(large ? (width() - desk.width()) / 2 : 0,
-                     large ? (height() - desk.height()) / 2 : 0, desk.width(), desk.height());
+  desk_->setGeometry(large ? (width() - size.width()) / 2 : 0,
+                     large ? (height() - size.height()) / 2 : 0, size.width(), size.height());
   if (strip != nullptr) strip->Lay();
   for (Control* control : shown.Controls) {
     if (ControlView* view = ViewOf(*control)) view->Lay();
@@ -164,7 +149,7 @@ void WindowWidget::resizeEvent(QResizeEvent* event) {
   if (!event->spontaneous()) return;
   const Place now{x() * TwipsPerPixel, y() * TwipsPerPixel, width() * TwipsPerPixel,
                   height() * TwipsPerPixel};
-  Resize(skin.desk, shown, now, StateOf(*this));
+  Resize(desk, shown, now, StateOf(*this));
 }
 
 void WindowWidget::showEvent(QShowEvent* event) {
@@ -221,17 +206,19 @@ void WindowWidget::StandOnScreen() {
 // What closing does is the logic's to say; what it hides goes by its watcher.
 void WindowWidget::closeEvent(QCloseEvent* event) {
   event->ignore();
-  CloseWindow(skin.desk, shown);
+  CloseWindow(desk, shown);
 }
 
 void WindowWidget::keyPressEvent(QKeyEvent* event) {
   if (!AnswerKey(*this, *event)) QWidget::keyPressEvent(event);
 }
 
+void WindowWidget::RepaintSoon(QWidget& picture) { skin.RepaintSoon(picture); }
+
 void WindowWidget::PointerOver(Control& control) {
   if (under_pointer_ == &control) return;
   under_pointer_ = &control;
-  PointerEnters(skin.desk, control);
+  PointerEnters(desk, control);
 }
 
 void WindowWidget::FloatingPanelTurned(Control& panel, bool had_keyboard) {

@@ -7,54 +7,34 @@
 #include <QWidget>
 
 #include "controls/window.h"
-#include "desktop/look/spot.h"
+#include "desktop/widgets/ground.h"
+#include "desktop/widgets/host.h"
 
 namespace orvane {
 
-class ControlView;
-class Flyout;
 class MenuStrip;
 class Skin;
-class WindowWidget;
 
-// What the controls stand on; centred in a maximised window.
-class Ground : public QWidget {
- public:
-  explicit Ground(WindowWidget& window);
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-
- private:
-  WindowWidget& window_;
-};
-
-class WindowWidget : public QWidget {
+class WindowWidget : public QWidget, public Host {
  public:
   WindowWidget(Skin& skin, Window& shown);
   ~WindowWidget() override;
 
   Skin& skin;
   Window& shown;
-  Scale scale;
-  Flyout* flyout = nullptr;
   MenuStrip* strip = nullptr;  // none in a window without menus
 
-  QWidget& Desk() { return *desk_; }
-  ControlView* ViewOf(const Control& control) const;
+  QWidget& Desk() override { return *desk_; }
+  ControlView* ViewOf(const Control& control) const override;
   void Take(Control& control, Aspect aspect);
 
-  // Twips from the window's inner top left, below the strip if there is one, to twips of the desk.
-  Place OnDesk(Place place) const;
+  Place OnDesk(Place place) const override;
   int PlanWidth() const { return shown.Row.At.Width; }
   int PlanHeight() const { return shown.Row.At.Height; }
 
-  void PointerOver(Control& control);  // tells of it once, when it comes
-  // One was opened, or closed with or without the keyboard in it, which then goes back to where it
-  // came from.
-  void FloatingPanelTurned(Control& panel, bool had_keyboard);
+  void RepaintSoon(QWidget& picture) override;
+  void PointerOver(Control& control) override;
+  void FloatingPanelTurned(Control& panel, bool had_keyboard) override;
   void LayAll();
 
  protected:

@@ -40,9 +40,9 @@ bool OutsideAtRandom::PrintWindow(Window& page) {
   QImage paper(8 * kDots, 11 * kDots, QImage::Format_RGB32);
   QPainter painter(&paper);
   if (auto* own = dynamic_cast<PrintPage*>(&page)) {
-    DrawPrintPage(painter, paper.rect(), kDots, *skin, *own);
+    DrawPrintPage(painter, paper.rect(), kDots, *screen, *own);
   } else {
-    DrawWindow(painter, paper.rect(), kDots, *skin, page);
+    DrawWindow(painter, paper.rect(), kDots, *screen, page);
   }
   return true;
 }
