@@ -42,7 +42,7 @@ bool FitsOneOf(std::string_view name, std::string_view patterns) {
 
 bool IsHidden(std::string_view name) { return name.starts_with('.'); }
 
-// The names in a folder of which `wanted` says that they belong there, sorted.
+// The names in a folder that `wanted` accepts, sorted.
 template <class Wanted>
 std::vector<std::string> NamesIn(const fs::path& folder, std::string& trouble, Wanted wanted) {
   std::vector<std::string> names;
@@ -58,7 +58,7 @@ std::vector<std::string> NamesIn(const fs::path& folder, std::string& trouble, W
   return names;
 }
 
-// Absolute, without "..", and without a separator at its end.
+// Absolute, without "..", and without a trailing separator.
 fs::path Whole(std::string_view path) {
   std::error_code error;
   fs::path whole = fs::absolute(fs::path(path), error).lexically_normal();

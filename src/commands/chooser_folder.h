@@ -23,7 +23,7 @@ struct FileRows {
   std::vector<std::string> Names;
   std::string Trouble;
 };
-// By name, those that fit one of the patterns: "*.wav;*.au", in either case of letters.
+// Sorted by name, those that fit one of the patterns, "*.wav;*.au", in upper or lower case.
 FileRows FilesAt(std::string_view path, std::string_view patterns);
 
 }  // namespace orvane

@@ -11,7 +11,7 @@
 namespace orvane {
 namespace {
 
-// Acts as a key on the control itself.
+// Acts as a key on the control itself does.
 template <auto kControl>
 void Push(Orvane_Desk& desk) {
   PressAndClickInTheMiddle(desk, desk.main.*kControl);

@@ -1,5 +1,5 @@
 // The keys of the desk: each works one control or the walk over the atoms, through the same events
-// as a pointer. The sheet behind F1 is made of this table.
+// as a pointer. The sheet behind F1 is made from this table.
 #pragma once
 
 #include <span>

@@ -25,7 +25,8 @@ void PressLife::ButtonDown(int button, float x, float y) {
 
 void PressLife::Moved(int buttons, float x, float y) { Move(desk, control, buttons, x, y); }
 
-// The hold ends before the handlers run, since they may open a box, under which nothing looks held.
+// The hold ends before the handlers run, since they may open a box, and nothing should look held
+// under it.
 void PressLife::ButtonUp(int button, float x, float y, bool over) {
   const bool ends = button == kLeftButton && std::exchange(held_, false);
   Release(desk, control, button, x, y);

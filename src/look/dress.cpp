@@ -39,7 +39,7 @@ constexpr auto kDresses = std::to_array<Dress>({
     {.Control = "V_RGB_H", .Face = kGround, .Edge = kEdge, .Corner = 6, .Floats = true},
     {.Control = "P_Dir_Holder", .Face = kGround, .Edge = kEdge, .Corner = 6, .Letters = {11, 600}, .Align = Side::Left, .TextLeft = 12, .TextTop = 10, .Floats = true},
     {.Control = "P_Clr", .Shape = DressShape::Swatch, .Corner = 3, .Letters = {7, 700}},
-    {.Control = "Do_color", .Shape = DressShape::Bevel, .Corner = 4, .LooksPressed = true},  // its panel is open while it is seen
+    {.Control = "Do_color", .Shape = DressShape::Bevel, .Corner = 4, .LooksPressed = true},  // its panel is open while it shows
     {.Control = "Bt_M_Ld", .Shape = DressShape::Tab},
 });
 // clang-format on

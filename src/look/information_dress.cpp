@@ -8,7 +8,7 @@ namespace {
 using namespace palette;
 
 constexpr Argb kFront = 0xFF35B7C9;      // the line above the splash: the icon's own blue
-constexpr Argb kFrontHair = 0xFF22303B;  // a line that the dark ground nearly swallows
+constexpr Argb kFrontHair = 0xFF22303B;  // a line that the dark background nearly swallows
 
 // clang-format off
 constexpr auto kDresses = std::to_array<Dress>({

@@ -1,4 +1,4 @@
-// The dress of the information windows.
+// How the information windows look.
 #pragma once
 
 #include <span>

@@ -1,17 +1,17 @@
-// The windows' own colours. A desktop's theme has no say in them.
+// The windows' own colours. The desktop's theme does not change them.
 #pragma once
 
 #include <cstdint>
 
 namespace orvane {
 
-using Argb = std::uint32_t;  // 0xAARRGGBB, as screens and pages count a colour
+using Argb = std::uint32_t;  // 0xAARRGGBB, as screens and web pages write a colour
 
 namespace palette {
 
 inline constexpr Argb kGround = 0xFFEDF1F4;    // windows
 inline constexpr Argb kFace = 0xFFFFFFFF;      // raised faces, lists, the menu strip
-inline constexpr Argb kBand = 0xFFDCE4EA;      // list headings, the screen round a maximised desk
+inline constexpr Argb kBand = 0xFFDCE4EA;      // list headings, the screen around a maximised desk
 inline constexpr Argb kHair = 0xFFC6D0D8;      // hairlines
 inline constexpr Argb kListEdge = 0xFFB1BAC1;  // lists, headings, cards, the result
 inline constexpr Argb kEdge = 0xFF788793;  // text boxes, floating panels, lower edge of a button
@@ -23,7 +23,7 @@ inline constexpr Argb kInk2 = 0xFF44535F;
 inline constexpr Argb kDisabled = 0xFF7A8792;
 inline constexpr Argb kDisabledFace = 0xFFE6EBEF;
 
-// One accent: on, chosen, or here is the keyboard.
+// One accent: it means on, chosen, or with the keyboard.
 inline constexpr Argb kAccent = 0xFF0B6E7F;
 inline constexpr Argb kDeep = 0xFF084E5B;   // text on tint, list keys
 inline constexpr Argb kTint = 0xFFD3EBEE;   // pressed face

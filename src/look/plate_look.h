@@ -1,4 +1,4 @@
-// What a button, a toggle or a panel wears in each of its states.
+// How a button, a toggle or a panel looks in each of its states.
 #pragma once
 
 #include "controls/control.h"
@@ -6,7 +6,7 @@
 
 namespace orvane {
 
-// What happens to it at the moment.
+// What is happening to it.
 struct Touch {
   bool Off = false;    // not enabled
   bool Under = false;  // the pointer is over it
@@ -22,13 +22,13 @@ struct BevelLook {
   bool Sunken = false;  // with a shade below the upper edge, while it has no ring
 };
 
-// Of a control that wears DressShape::Bevel.
+// For a control with DressShape::Bevel.
 BevelLook BevelLookOf(const Control& control, const Dress& dress, Touch touch);
 
-// The shade below the upper edge of a sunken plate: kDeep, so much of it.
+// The shade below the upper edge of a sunken plate: its share of kDeep.
 inline constexpr float kSunkenShade = 0.27F;
 
-// The edge round a swatch of that colour: the colour itself, darker.
+// The edge around a swatch of that colour: the colour itself, darker.
 Argb SwatchEdge(Argb face);
 
 }  // namespace orvane

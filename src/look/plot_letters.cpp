@@ -25,7 +25,7 @@ constexpr auto kLetters = std::to_array<PlotLetters>({
     {.Control = "L_Alf",      .Size = 12, .Baseline = 9.5},
     {.Control = "L_Alf(1)",   .Family = Symbol, .Size = 12, .Baseline = 9.5},
     {.Control = "Collag",     .Size = 12, .Baseline = 9.5},
-    // Scale marks, the degree raised behind them.
+    // Scale marks, each with a raised degree mark after it.
     {.Control = "Degrs",    .Family = Sans, .Size = 11, .Baseline = 11, .Quiet = true},
     {.Control = "Degrs(1)", .Family = Sans, .Size = 8, .Left = 0.5, .Baseline = 9, .Quiet = true},
     {.Control = "Degrs(3)", .Family = Sans, .Size = 8, .Left = 0.5, .Baseline = 9, .Quiet = true},

@@ -1,5 +1,5 @@
-// From twips to the screen. Both corners of a control are rounded to whole device pixels, not its
-// width, so that gaps stay even and edges crisp at every density and size.
+// Takes twips to the screen. Both corners of a control are rounded to whole device pixels, rather
+// than its width, so that gaps stay even and edges crisp at every density and size.
 #pragma once
 
 #include "controls/control.h"
@@ -23,7 +23,7 @@ struct Scale {
 };
 
 // Where a control stands: itself in device pixels of the desk, and the skin's whole pixels that
-// cover it with what is painted round it.
+// cover it with what is painted around it.
 struct PixelSpot {
   PixelBox Face;
   PixelBox Hull;

@@ -1,4 +1,4 @@
-// How large and how heavy a text of the windows is set. The family is the skin's: Inter, so that
+// The size and the weight of a text in the windows. The skin chooses the family: Inter, so that
 // every caption fits on every machine.
 #pragma once
 

@@ -1,4 +1,4 @@
-// What the controls of a window stand on: its ground, and the dark band of a title.
+// What lies behind the controls of a window: its background, and the dark band of a title.
 #pragma once
 
 #include <string_view>
@@ -11,7 +11,7 @@ struct WindowDress {
   std::string_view Window;
   Argb Ground = palette::kGround;
   int Band = 0;         // twips from the top, dark
-  bool Centred = true;  // comes up in the middle of the screen, and not at its own place
+  bool Centred = true;  // opens in the middle of the screen, not at its own place
 };
 
 const WindowDress& WindowDressOf(std::string_view window);

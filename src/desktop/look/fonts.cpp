@@ -22,9 +22,9 @@ void AddFont(std::span<const unsigned char> bytes) {
 }  // namespace
 
 void LoadType() {
-  // The machine's own fonts are listed at the first question. Asked now, they cannot come later and
-  // take the place of ours with another cut of the same name. Of the questions there are, this one
-  // does not also work out what the machine would show in the place of a family that it lacks.
+  // The machine's own fonts are listed at the first query. Listed now, they cannot come later and
+  // replace ours with another version of the same name. Unlike other queries, this one does not
+  // also work out what the machine would show in place of a family that it lacks.
   (void)QFontDatabase::isFixedPitch(QStringLiteral("Inter"));
   AddFont(embedded::inter_regular());
   AddFont(embedded::inter_medium());
@@ -63,7 +63,7 @@ void DrawLine(QPainter& painter, const QRectF& box, Qt::Alignment align, Type ty
   const double x = align & Qt::AlignRight     ? box.left() + room
                    : align & Qt::AlignHCenter ? box.left() + room / 2
                                               : box.left();
-  // Capitals stand in the middle of the box, on a whole device pixel.
+  // Capitals are centred in the height of the box, on a whole device pixel.
   const double baseline =
       std::round(box.top() + (box.height() + type.Size * kCapHeight * unit) / 2);
   painter.save();

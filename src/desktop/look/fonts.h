@@ -10,7 +10,7 @@
 
 namespace orvane {
 
-// Before the first text: the embedded families become known.
+// Called before the first text: makes the embedded families known.
 void LoadType();
 
 // At 100 per cent, unless `factor` says otherwise. Texts of controls are set at 100 per cent and
@@ -26,7 +26,7 @@ Qt::Alignment AlignmentOf(Side side);
 void DrawLine(QPainter& painter, const QRectF& box, Qt::Alignment align, Type type, QRgb ink,
               double unit, const QString& text);
 
-// A menu caption: the letter behind "&" is underlined.
+// A menu caption: the letter after "&" is underlined.
 void DrawMnemonic(QPainter& painter, const QRectF& box, Type type, QRgb ink, double unit,
                   const QString& caption);
 QString WithoutMnemonic(const QString& caption);

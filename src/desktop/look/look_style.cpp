@@ -47,7 +47,7 @@ QPalette OwnPalette() {
   return colours;
 }
 
-// Of the tips as they are set now.
+// The size factor of the tips as it is set now.
 double TipFactor() { return static_cast<double>(QToolTip::font().pixelSize()) / kTipType.Size; }
 
 QString MenuText(const QStyleOptionMenuItem& item) { return item.text.section(u'\t', 0, 0); }

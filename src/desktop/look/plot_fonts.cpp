@@ -23,7 +23,7 @@ bool LoadPlotType() {
 }  // namespace
 
 QFont PlotFont(PlotFamily family, int size, const QString& text) {
-  static const bool loaded = LoadPlotType();  // when the first window wants it
+  static const bool loaded = LoadPlotType();  // when the first window needs it
   (void)loaded;
   const bool lent = text.contains(QString::fromUtf8(kStraightPhi.data(), kStraightPhi.size()));
   QFont font(lent                         ? QStringLiteral("Inter")

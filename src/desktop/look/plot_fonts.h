@@ -1,5 +1,5 @@
-// The type of the plot window: Liberation Serif and Sans, embedded. Greek letters come as the
-// letters of an old symbol type, "a" for alpha.
+// The type of the plot window: Liberation Serif and Sans, embedded. Greek letters are written as
+// the letters of an old symbol type, "a" for alpha.
 #pragma once
 
 #include <QFont>
@@ -9,7 +9,7 @@
 
 namespace orvane {
 
-// At 100 per cent, like all type of the windows.
+// At 100 per cent, like all type in the windows.
 QFont PlotFont(PlotFamily family, int size, const QString& text);
 
 }  // namespace orvane

@@ -13,7 +13,7 @@ inline QRect RectOf(const PixelBox& box) { return {box.Left, box.Top, box.Width,
 
 struct Spot {
   QRect Face;  // the control itself, in device pixels of the desk
-  QRect Hull;  // with what is painted round it, in the toolkit's pixels
+  QRect Hull;  // with what is painted around it, in the toolkit's pixels
 };
 Spot SpotOf(const Scale& scale, const Place& absolute, double outset);
 

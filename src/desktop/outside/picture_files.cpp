@@ -83,7 +83,7 @@ std::string PictureFolder(const std::string& program_folder) {
   if (access(program_folder.c_str(), W_OK) == 0) return program_folder;
   const QString own = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) +
                       QStringLiteral("/Orvane");
-  QDir().mkpath(own);  // without it the save fails, and says so
+  QDir().mkpath(own);  // if there is none, the save fails and says so
   return own.toStdString();
 }
 

@@ -1,4 +1,4 @@
-// Pictures leave the program as files: what is on the screen, in the screen's own pixels.
+// Writes pictures to files: what is on the screen, in the screen's own pixels.
 #pragma once
 
 #include <string>
@@ -12,11 +12,11 @@ namespace orvane {
 class Screen;
 
 // Where pictures go: the folder of the program, or, where the user may not write there, a folder of
-// their own among their pictures, which is made when it is first needed.
+// its own among the user's pictures, which is made when it is first needed.
 std::string PictureFolder(const std::string& program_folder);
 
 // What `source` shows. A surface's strokes are rastered at the size that they have on the screen,
-// also while it is hidden; anything else is taken as its widgets paint it.
+// even while it is hidden; anything else is taken as its widgets paint it.
 QImage PictureOf(Screen& screen, Control& source);
 
 // Writes the picture into that folder and nowhere else, or ends in FailPlatform.

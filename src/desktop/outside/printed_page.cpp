@@ -17,7 +17,7 @@
 namespace orvane {
 namespace {
 
-// Finer pixels are not seen, and cost four times the memory at twice the density.
+// Finer pixels cannot be seen, and twice the density takes four times the memory.
 constexpr int kMostDots = 600;
 
 // The plan of a window on the paper.
@@ -39,7 +39,7 @@ Sheet SheetOf(const QRectF& paper, const Place& plan) {
       twip};
 }
 
-// Pixels of an image that is drawn over `pixels` of a printer of so many dots.
+// The pixels of an image that is drawn over `pixels` of a printer with that many dots.
 int ImagePixels(double pixels, int dots) {
   return std::max(1,
                   static_cast<int>(std::lround(pixels * std::min(1.0, kMostDots / (dots + 0.0)))));
@@ -81,7 +81,7 @@ void DrawPicture(QPainter& painter, const Sheet& sheet, int dots, Screen& screen
   painter.drawImage(at, image);
 }
 
-// Thin lines are kept as they are, not smeared by a lossy packing.
+// Keeps thin lines as they are, not smeared by lossy compression.
 void PreparePainter(QPainter& painter) {
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
                          QPainter::LosslessImageRendering);

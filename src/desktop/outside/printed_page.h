@@ -11,15 +11,14 @@ class Screen;
 class Window;
 
 // Draws the page's visible controls at their places, as wide as `paper` (in the painter's pixels,
-// `dots` to an inch) allows, in the middle across and at its top.
+// `dots` to an inch) allows, centred across it and at its top.
 void DrawPrintPage(QPainter& painter, const QRectF& paper, int dots, Screen& screen,
                    PrintPage& page);
 
-// Any other window, as its widgets paint it: laid out once more, unseen, as large as the paper
-// asks.
+// Any other window, as its widgets paint it: laid out again, unseen, as large as the paper allows.
 void DrawWindow(QPainter& painter, const QRectF& paper, int dots, Screen& screen, Window& window);
 
-// To the system's default printer. False: there is none, or it does not take the page.
+// Prints to the system's default printer. False: there is none, or it does not take the page.
 bool PrintOnPaper(Screen& screen, Window& window);
 
 }  // namespace orvane

@@ -19,7 +19,7 @@ QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// Counts a box for as long as it is up.
+// Counts a box as long as it is open.
 struct BoxUp {
   explicit BoxUp(int& boxes) : count(boxes) { ++count; }
   ~BoxUp() { --count; }
@@ -65,7 +65,7 @@ std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::st
 void QtPlatform::LetEventsRun() { QCoreApplication::processEvents(); }
 
 void QtPlatform::Wait(int seconds) {
-  // The clock counts whole seconds: a wait of none goes on until the next one begins.
+  // The clock counts whole seconds: a wait of 0 lasts until the next second begins.
   const qint64 last = QDateTime::currentSecsSinceEpoch() + seconds;
   while (!ended_ && QDateTime::currentSecsSinceEpoch() <= last) {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 20);

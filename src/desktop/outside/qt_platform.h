@@ -37,7 +37,7 @@ class QtPlatform : public Platform {
   bool BoxIsUp() const { return boxes_ > 0; }  // meanwhile no timer ticks
 
  private:
-  std::unique_ptr<Sound> sound_;  // from the first file that is opened
+  std::unique_ptr<Sound> sound_;  // made when the first file is opened
   int boxes_ = 0;
   bool ended_ = false;
 };

@@ -14,7 +14,7 @@ QAccessibleInterface* OfView(ControlView& view) {
   const SpokenRole role = RoleOf(view.control);
   switch (role) {
     case SpokenRole::Entry:
-      return nullptr;  // the toolkit's own reads and types letters
+      return nullptr;  // the toolkit's own interface reads and types letters
     case SpokenRole::List:
       return new AccessibleList(view.widget, role);
     case SpokenRole::Dropdown:

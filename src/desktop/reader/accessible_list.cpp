@@ -7,7 +7,7 @@
 namespace orvane {
 namespace {
 
-// What Enter and a double click do, where they do more than choosing.
+// What Enter and a double click do where they do more than choose.
 QString OpenAction() { return QStringLiteral("Open"); }
 
 }  // namespace
@@ -94,7 +94,7 @@ QStringList AccessibleRow::actionNames() const {
   return names;
 }
 
-// After the reader has its answer, since choosing may open a box.
+// Runs after the reader has its answer, since choosing may open a box.
 void AccessibleRow::doAction(const QString& name) {
   if (!actionNames().contains(name)) return;
   RowList* list = list_.Rows();

@@ -1,4 +1,5 @@
-// A list for a screen reader: rows are painted, and each is a child that can be read and chosen.
+// A list for a screen reader: its rows are painted, and each is a child that can be read and
+// chosen.
 #pragma once
 
 #include <unordered_map>
@@ -23,7 +24,7 @@ class AccessibleList : public AccessibleControl {
   QAccessibleInterface* focusChild() const override;
 
  private:
-  mutable std::unordered_map<int, QAccessible::Id> rows_;  // those that were asked for
+  mutable std::unordered_map<int, QAccessible::Id> rows_;  // the rows that were asked for
 };
 
 class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInterface {

@@ -11,7 +11,7 @@ QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-constexpr std::string_view kSteps = "Walk over the atoms";  // group of keys
+constexpr std::string_view kSteps = "Walk over the atoms";  // a group of keys
 
 bool IsStep(const DeskKey& key) { return key.Where == KeyPlace::Picture && key.Group == kSteps; }
 

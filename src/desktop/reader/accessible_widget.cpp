@@ -121,7 +121,7 @@ QAccessible::State AccessibleControl::state() const {
   return state;
 }
 
-// The control itself, without what is painted round it.
+// The control itself, without what is painted around it.
 QRect AccessibleControl::rect() const {
   const ControlView* view = View();
   if (view == nullptr) return AccessibleWidget::rect();
@@ -142,8 +142,8 @@ QStringList AccessibleControl::actionNames() const {
   return OwnActions() + AccessibleWidget::actionNames();
 }
 
-// An action may open a box, which stays for as long as the user likes, and the reader waits for an
-// answer: so the action comes after it.
+// An action may open a box, which stays open as long as the user likes, and the reader waits for an
+// answer. So the action runs after the answer.
 void AccessibleControl::doAction(const QString& name) {
   if (name == setFocusAction()) {
     widget()->window()->activateWindow();

@@ -1,5 +1,5 @@
-// What a screen reader finds at a widget of the house: its words, its role and state, what may be
-// done to it, and those of its children that say something.
+// What a screen reader finds at one of our widgets: its words, its role and state, what may be done
+// to it, and those of its children that say something.
 #pragma once
 
 #include <QAccessibleWidget>
@@ -10,7 +10,7 @@ namespace orvane {
 
 class ControlView;
 
-// A window, or the ground on which its controls stand.
+// A window, or the background on which its controls stand.
 class AccessibleWidget : public QAccessibleWidget {
  public:
   using QAccessibleWidget::QAccessibleWidget;
@@ -25,7 +25,7 @@ class AccessibleWidget : public QAccessibleWidget {
   QList<QWidget*> Children() const;  // without ornaments and flyouts
 };
 
-// A control. Its words are of the logic; what a reader does to it is what the user may do.
+// A control. Its words come from the logic; a reader may do to it what the user may do.
 class AccessibleControl : public AccessibleWidget {
  public:
   AccessibleControl(QWidget& widget, SpokenRole role);
@@ -37,15 +37,15 @@ class AccessibleControl : public AccessibleWidget {
   void doAction(const QString& name) override;
 
  protected:
-  // A widget on its way out is no view any more, and may still be asked.
+  // Null for a widget that is being destroyed: it is no longer a view but may still be asked.
   ControlView* View() const;
   virtual QStringList OwnActions() const;  // the first is what a click does
-  virtual void Do(const QString& name);    // once the reader has its answer
+  virtual void Do(const QString& name);    // after the reader has its answer
 
   const SpokenRole role_;
 };
 
-// From now on the house's widgets are read as above.
+// From now on our widgets are read as above.
 void InstallAccessibleWidgets();
 
 }  // namespace orvane

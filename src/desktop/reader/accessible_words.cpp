@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kSoon = 30;  // milliseconds
 
-// Gives the widget its words of this moment, which tells readers. True: they are others.
+// Gives the widget its words of this moment, which tells readers. True: they have changed.
 bool Renew(ControlView& view) {
   const Orvane_Desk& desk = view.host.desk;
   const QString name = QString::fromStdString(NameNow(desk, view.control));
@@ -28,7 +28,7 @@ bool Renew(ControlView& view) {
   return named || described;
 }
 
-// A name lies within the area that holds it; the rest of the map stands all the time.
+// A name lies within the area that holds it; the rest of the map is always shown.
 bool IsNameOnMap(const Control& control) {
   return RoleOf(control) == SpokenRole::Text && control.Parent != nullptr &&
          control.Parent->Row.Kind == ControlKind::PictureBox;
@@ -79,7 +79,7 @@ void AccessibleWords::Say(Window& where, const QString& words) {
 
 void AccessibleWords::TellPicture() {
   Orvane_Desk& desk = desk_;
-  if (!desk.main.Visible) return;  // nobody looks, and the window may not have been made
+  if (!desk.main.Visible) return;  // nobody looks, and the window may not exist yet
   Host& window = host_of_(desk.main);
   ControlView& picture = *window.ViewOf(desk.main.Picture1);
   const QString before = picture.widget.accessibleName();

@@ -1,5 +1,5 @@
-// What a screen reader is told by itself: what the picture shows, where the walk over the atoms
-// stands and which names come up on the map, whenever that changes.
+// What a screen reader is told without asking: what the picture shows, where the walk over the
+// atoms stands and which names show on the map, whenever that changes.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,7 @@ namespace orvane {
 class Host;
 struct Orvane_Desk;
 
-// Nothing to be seen: readers speak a notice that comes to be shown, wherever the keyboard is.
+// An invisible notice: readers speak a notice when it is shown, wherever the keyboard is.
 class Announcer : public QWidget {
  public:
   explicit Announcer(QWidget& ground);
@@ -29,7 +29,7 @@ class AccessibleWords {
 
   AccessibleWords(Orvane_Desk& desk, HostOf host_of);
 
-  // Something on the desk has changed. Many changes of one command are told once.
+  // Something on the desk has changed. The many changes of one command are told once.
   void Soon(const Window& where);
 
  private:
@@ -42,7 +42,7 @@ class AccessibleWords {
   HostOf host_of_;
   QTimer soon_;
   bool on_desk_ = false, map_ = false;  // where something has changed
-  QString on_map_;                      // names on the map when it was last told of
+  QString on_map_;                      // the names on the map when they were last told
   std::unordered_map<const Window*, QPointer<Announcer>> announcers_;  // made for the first reader
 };
 

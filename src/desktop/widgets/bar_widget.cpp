@@ -26,7 +26,7 @@ BarWidget::BarWidget(Host& owner, ScrollBar& shown, QWidget& parent)
   setSingleStep(bar_.Range.SmallStep);
   setPageStep(bar_.Range.LargeStep);
   setValue(bar_.Value);
-  // A screen reader sets the value by itself; every other way goes through the bar.
+  // A screen reader sets the value directly; everything else goes through the bar.
   connect(this, &QAbstractSlider::valueChanged, this,
           [this](int set) { StepBar(host.desk, bar_, set); });
 }
@@ -149,7 +149,7 @@ void BarWidget::timerEvent(QTimerEvent* event) {
   Repeat();
 }
 
-// A page step stops once the thumb has come under the pointer.
+// A page step stops once the thumb is under the pointer.
 void BarWidget::Repeat() {
   const Way way = WayOf();
   const bool under = pointer_ >= way.ThumbAt && pointer_ < way.ThumbAt + way.Thumb;

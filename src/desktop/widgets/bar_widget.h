@@ -35,16 +35,16 @@ class BarWidget : public Viewed<QAbstractSlider> {
   Way WayOf() const;
   double Along(QPointF widget_point) const;  // of the pointer
   void StepBy(int step);
-  void Repeat();  // the step under the held button, once more
+  void Repeat();  // repeats the step of the held button
   void PaintArrow(QPainter& painter, const QRect& face, bool at_end);
 
   ScrollBar& bar_;
   bool lies_;  // left to right
   bool dragging_ = false;
-  double grip_ = 0;  // from the thumb's start to where it is held
+  double grip_ = 0;  // from the start of the thumb to where it is held
   WheelTurn turn_;
   double pointer_ = 0;  // along the bar, while a step repeats
-  int held_step_ = 0;   // what the held button steps by; 0: none
+  int held_step_ = 0;   // the step of the held button; 0: none
   QBasicTimer repeat_;
 };
 

@@ -24,7 +24,7 @@ QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// Left, right and middle button, as events count them.
+// Left, right and middle button, as events number them.
 int ButtonOf(Qt::MouseButton button) {
   return button == Qt::LeftButton    ? kLeftButton
          : button == Qt::RightButton ? kRightButton

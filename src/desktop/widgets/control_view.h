@@ -26,9 +26,9 @@ class ControlView {
   QWidget& widget;
   Host& host;
 
-  // Takes over what the control is, once the widget is whole: from then on a screen reader may ask.
+  // Takes the control's state, once the widget is whole: from then on a screen reader may ask.
   void Begin();
-  // Something of the control has changed.
+  // Something in the control has changed.
   virtual void Take(Aspect aspect);
   // Puts the widget at the control's place.
   virtual void Lay();
@@ -36,13 +36,14 @@ class ControlView {
   double Unit() const;                               // device pixels to a pixel of the plan
   const Spot& Stand() const { return spot_; }        // in the desk
   QPointF SurfacePoint(QPointF widget_point) const;  // pixels of the control
-  QRectF FaceInWidget() const;                       // the control in widget's pixels
+  QRectF FaceInWidget() const;                       // the control, in the widget's pixels
 
  protected:
   virtual Place StandsAt() const { return control.At; }
-  virtual double Outset() const { return 0; }  // pixels painted round the face
-  void Hear(QEvent& event);                    // pointer and keyboard coming
-  // The pointer's buttons, at a place in the pixels of the control; `over` what may be clicked.
+  virtual double Outset() const { return 0; }  // pixels painted around the face
+  void Hear(QEvent& event);                    // the pointer or the keyboard comes
+  // The pointer's buttons, at a place in the pixels of the control; `over`: over the part that can
+  // be clicked.
   void PassPress(PressLife& life, const QMouseEvent& event) const;
   void PassMove(PressLife& life, const QMouseEvent& event) const;
   void PassRelease(PressLife& life, const QMouseEvent& event, bool over) const;

@@ -32,7 +32,7 @@ DriveWidget::DriveWidget(Host& owner, FileList& shown, QWidget& parent)
 
 QString DriveWidget::Path() const { return PathOf(list_); }
 
-// What a reader would call a drive: home, the root, and whatever was plugged in.
+// What a user would call a drive: home, the root, and whatever is plugged in.
 QStringList DriveWidget::Drives() {
   QStringList drives{QDir::homePath(), QDir::rootPath()};
   for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {

@@ -30,7 +30,7 @@ class DriveWidget : public Viewed<QWidget> {
   FileList& list_;
 };
 
-// Rows that are read from the disk, anew when the control has another folder.
+// Rows read from the disk, and read again when the control has another folder.
 class FolderRowList : public RowList {
  public:
   FolderRowList(Host& owner, FileList& shown, QWidget& parent);
@@ -38,7 +38,7 @@ class FolderRowList : public RowList {
   void Take(Aspect aspect) override;
 
  protected:
-  virtual void ReadFolder() = 0;  // at first by the class that is made of this one
+  virtual void ReadFolder() = 0;  // first called by the derived class
 
   FileList& list_;
 };

@@ -1,5 +1,5 @@
-// A cut row or a hidden caption, shown whole above everything: right edges equal, growing
-// leftwards.
+// A cut row or a hidden caption, shown whole above everything else: its right edge stays in place,
+// and it grows to the left.
 #pragma once
 
 #include <QWidget>
@@ -10,12 +10,12 @@ namespace orvane {
 
 class Host;
 
-// Takes no pointer: what lies below goes on being under it.
+// Takes no pointer events: what lies below still gets them.
 class Flyout : public QWidget {
  public:
   Flyout(Host& window, QWidget& desk);
 
-  // `row` in device pixels of the desk; `key` stands before `rest`, in a heavier letter.
+  // `row` in device pixels of the desk; `key` comes before `rest`, in heavier type.
   void ShowRow(const void* owner, const QRect& row, const QString& key, const QString& rest);
   void HideOf(const void* owner);
 

@@ -1,4 +1,4 @@
-// What the controls of a window stand on; centred in a maximised window.
+// The background of a window's controls; centred in a maximised window.
 #pragma once
 
 #include <QWidget>

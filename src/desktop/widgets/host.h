@@ -23,7 +23,7 @@ class Host {
   Orvane_Desk& desk;
   Raster& raster;
   Sight& sight;
-  Scale scale;               // of the window as it stands
+  Scale scale;               // of the window as it is now
   Flyout* flyout = nullptr;  // one for all lists of the window
 
   virtual QWidget& Desk() = 0;  // what the controls stand on
@@ -35,9 +35,9 @@ class Host {
   // drawn on.
   virtual void RepaintSoon(QWidget& picture) = 0;
 
-  virtual void PointerOver(Control& control) = 0;  // tells of it once, when it comes
-  // A floating panel was opened, or closed with or without the keyboard in it, which then goes back
-  // to where it came from.
+  virtual void PointerOver(Control& control) = 0;  // reports it once, when it arrives
+  // A floating panel was opened or closed. If it had the keyboard when it closed, the keyboard goes
+  // back to where it came from.
   virtual void FloatingPanelTurned(Control& panel, bool had_keyboard) = 0;
 };
 

@@ -16,7 +16,7 @@ void KeyedPicture::paintEvent(QPaintEvent* event) {
   if (by_keys_) PaintPictureRing(painter, face, Unit());
 }
 
-// A window or a menu that gives the keyboard back changes nothing.
+// Nothing changes when a window or a menu gives the keyboard back.
 void KeyedPicture::focusInEvent(QFocusEvent* event) {
   PictureWidget::focusInEvent(event);
   const Qt::FocusReason reason = event->reason();

@@ -5,7 +5,7 @@
 namespace orvane {
 namespace {
 
-constexpr double kRoom = 2;     // pixels round the box, for the line's own width
+constexpr double kRoom = 2;     // pixels around the box, for the line's own width
 constexpr double kUpright = 2;  // pixels: width of a line along an axis
 
 }  // namespace
@@ -20,7 +20,7 @@ void LineWidget::paintEvent(QPaintEvent*) {
   const QColor ink = QColor::fromRgba(along_axis ? palette::kEdge : palette::kInk);
   painter.setPen(QPen(ink, (along_axis ? kUpright : 1) * unit, Qt::SolidLine,
                       along_axis ? Qt::SquareCap : Qt::RoundCap));
-  // An upright line stands beside its place, inside what holds it.
+  // An upright line is drawn beside its place, inside what holds it.
   if (face.width() == 0) painter.translate(kUpright / 2 * unit, 0);
   painter.drawLine(QPointF(0, face.height()), QPointF(face.width(), 0));
 }

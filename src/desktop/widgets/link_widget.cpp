@@ -8,7 +8,7 @@
 namespace orvane {
 namespace {
 
-constexpr double kRingOut = 4;  // pixels round the text
+constexpr double kRingOut = 4;  // pixels around the text
 
 }  // namespace
 

@@ -9,7 +9,7 @@ class LinkWidget : public Plate {
  public:
   LinkWidget(Host& owner, Control& shown, QWidget& parent);
 
-  void Lay() override;  // as wide as its text, so that only the text is hit
+  void Lay() override;  // as wide as its text, so that only the text can be clicked
 
  protected:
   double Outset() const override;

@@ -1,4 +1,4 @@
-// A list of stock structures: a click on a row, also on the chosen one, chooses it.
+// A list of stock structures: a click on a row chooses it, even when it is chosen already.
 #pragma once
 
 #include "controls/kinds.h"

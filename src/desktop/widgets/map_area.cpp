@@ -9,7 +9,7 @@ constexpr QRgb kMapEdge = 0xFFA65A5F;
 
 }  // namespace
 
-// Its place may end between two of the toolkit's pixels, and what is not painted is the frame's.
+// Its place may end between two of the toolkit's pixels; what is not painted here shows the frame.
 MapAreaWidget::MapAreaWidget(Host& owner, Control& shown, QWidget& parent)
     : PictureWidget(owner, shown, parent) {
   setAttribute(Qt::WA_OpaquePaintEvent, false);

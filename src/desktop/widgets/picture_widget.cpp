@@ -40,7 +40,7 @@ std::shared_ptr<const Picture> PictureWidget::Now() const {
   return nullptr;
 }
 
-// The picture's width fills the control's, so an image box shows a snapshot of any size as its own.
+// The picture is as wide as the control, so an image box shows a snapshot of any size as its own.
 void PictureWidget::PaintPixels() {
   const QSize size = Stand().Face.size();
   if (pixels_.size() != size) pixels_ = QImage(size, QImage::Format_RGB32);
@@ -52,7 +52,7 @@ void PictureWidget::PaintPixels() {
                     static_cast<int>(pixels_.bytesPerLine() / 4));
 }
 
-// The toolkit asks for it in the midst of its painting, and nothing may be thrown through that.
+// The toolkit asks for it while it paints, and nothing may be thrown through the toolkit.
 void PictureWidget::RasterOnce() {
   try {
     PaintPixels();
@@ -64,7 +64,7 @@ void PictureWidget::RasterOnce() {
   }
 }
 
-// Nothing is shown until there is memory again; that is told once, when the painting is over.
+// Nothing is shown until there is memory again. The user is told once, when the painting is over.
 void PictureWidget::GoWithout() {
   pixels_ = QImage();
   if (std::exchange(told_, true)) return;

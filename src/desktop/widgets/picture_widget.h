@@ -16,7 +16,7 @@ class PictureWidget : public Viewed<QWidget> {
 
   void Take(Aspect aspect) override;
   void Lay() override;
-  const QImage& Pixels();  // of the picture as it is now
+  const QImage& Pixels();  // of the current picture
 
  protected:
   bool event(QEvent* event) override;
@@ -32,7 +32,7 @@ class PictureWidget : public Viewed<QWidget> {
   void GoWithout();
 
   bool stale_ = true;  // the pixels are older than the picture
-  bool told_ = false;  // that there was no memory for them
+  bool told_ = false;  // the user knows that there was no memory for them
   QImage pixels_;
   PressLife life_;
   RestTip rest_tip_{*this};

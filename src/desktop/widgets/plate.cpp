@@ -72,7 +72,7 @@ void Plate::PaintBevel(QPainter& painter, const QRect& face) {
   const BevelLook look =
       BevelLookOf(control, dress_, {.Off = !isEnabled(), .Under = underMouse(), .Held = IsHeld()});
   if (look.Edge == kNone) {
-    const double in = edge / 2.0;  // of an edge that is not there
+    const double in = edge / 2.0;  // in place of the missing edge
     PaintPlate(painter, QRectF(face).adjusted(in, in, -in, -in), look.Face, kNone, corner, edge);
     PaintCaption(painter, face, look.Ink, look.Letters);
     return;
@@ -100,7 +100,7 @@ void Plate::PaintSwatch(QPainter& painter, const QRect& face) {
   const Colour colour = control.BackColor;
   const double corner = dress_.Corner * Unit();
   const int edge = host.scale.Edge();
-  // As the picture will show it.
+  // As the picture would show it.
   const QRgb fill = host.sight.Shown(qRgb(Red(colour), Green(colour), Blue(colour)));
   PaintPlate(painter, face, fill, SwatchEdge(fill), corner, edge);
   if (HasRing() || underMouse()) {
@@ -116,7 +116,7 @@ void Plate::PaintPlain(QPainter& painter, const QRect& face) {
   const int edge = host.scale.Edge();
   if (dress_.Floats) PaintShadow(painter, face, corner, host.scale.Device(kPanelShadow));
   if (dress_.Shape == DressShape::Heading) {
-    // Its lower end lies under the list, whose edge closes it.
+    // Its lower end lies under the list; the list's edge closes it.
     painter.setClipRect(face);
     PaintPlate(painter, face.adjusted(0, 0, 0, static_cast<int>(corner) + edge), dress_.Face,
                dress_.Edge, corner, edge);
@@ -165,10 +165,10 @@ void Plate::mouseReleaseEvent(QMouseEvent* event) {
   PassRelease(life_, *event, FaceInWidget().contains(event->position()));
 }
 
-// Space and Enter are a click.
+// Space and Enter act as a click.
 void Plate::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  const bool own = hasFocus();  // else it has come up from a control that stands on this one
+  const bool own = hasFocus();  // otherwise the key comes from a control that lies on this one
   if (!own || (!enter && event->key() != Qt::Key_Space)) return event->ignore();
   if (!event->isAutoRepeat()) life_.KeyDown(event->key());
   update();

@@ -8,11 +8,11 @@
 namespace orvane {
 namespace {
 
-constexpr double kRoom = 6;  // pixels round a label's box, so that no letter is cut
+constexpr double kRoom = 6;  // pixels around a label's box, so that no letter is cut
 
 }  // namespace
 
-// The pointer is over the map, not over the names on it.
+// The pointer counts as over the map, not over the names on it.
 PlotLabel::PlotLabel(Host& owner, Control& shown, QWidget& parent)
     : Plate(owner, shown, parent), letters_(PlotLettersOf(shown)) {
   setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -1,5 +1,5 @@
-// A text for reading, broken into lines. Blanks before a hyphen are the gap of a letter that a
-// control of its own lays over them; no line breaks there.
+// A text for reading, broken into lines. Blanks before a hyphen are the gap for a letter that
+// another control lays over them; no line breaks there.
 #pragma once
 
 #include <vector>
@@ -16,7 +16,7 @@ class ReadingText : public Plate {
   using Plate::Plate;
 
   // The gap, in device pixels of the desk: as wide as its blanks and as high as its line. Empty in
-  // a text without one.
+  // a text without a gap.
   QRectF Gap() const;
   QStringList Lines() const;
 

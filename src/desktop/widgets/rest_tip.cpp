@@ -11,7 +11,7 @@
 namespace orvane {
 
 bool RestTip::Answer(const QHelpEvent& rest) {
-  if (QGuiApplication::mouseButtons() != Qt::NoButton) return true;  // a drag is no rest
+  if (QGuiApplication::mouseButtons() != Qt::NoButton) return true;  // a drag is not a rest
   const QPointF at = view_.SurfacePoint(rest.pos());
   const std::string words = RestWords(view_.host.desk, view_.control, static_cast<float>(at.x()),
                                       static_cast<float>(at.y()));
@@ -23,7 +23,7 @@ bool RestTip::Answer(const QHelpEvent& rest) {
   return true;
 }
 
-// There is one tip at a time, and by now it may be that of another control.
+// There is one tip at a time, and by now it may belong to another control.
 void RestTip::Drop() {
   if (shown_.isEmpty()) return;
   if (QToolTip::text() == shown_) QToolTip::hideText();

@@ -18,7 +18,7 @@ namespace {
 using namespace measures;
 using namespace palette;
 
-constexpr double kRounding = 0.1;  // pixels, of sixty-fourths, in a text that fits exactly
+constexpr double kRounding = 0.1;  // pixels; the width of a text is rounded to sixty-fourths
 
 }  // namespace
 
@@ -110,7 +110,7 @@ void RowList::paintEvent(QPaintEvent*) {
   const QRect face = EnterPixels(painter);
   const double unit = Unit();
   if (joined_ && !HasRing()) {
-    // Its upper end lies under the heading, whose face closes it.
+    // Its upper end lies under the heading; the heading's face closes it.
     painter.setClipRect(face);
     PaintPlate(painter, face.adjusted(0, -host.scale.Device(8), 0, 0), kFace, edge_, 4 * unit,
                host.scale.Edge());
@@ -233,7 +233,7 @@ void RowList::leaveEvent(QEvent* event) {
   Point(-1);
 }
 
-// The toolkit tells of the list itself once this is over, and the row has to come after it.
+// The toolkit reports the list itself after this returns, and the row has to come after that.
 void RowList::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
   QTimer::singleShot(0, this, [this] { TellKeyboardAtRow(*this); });

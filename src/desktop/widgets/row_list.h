@@ -1,5 +1,5 @@
-// Rows under one another: the chosen one, the one under the pointer, and a slim bar at the right.
-// What the rows are and what choosing one does belongs to the list that is made of it.
+// Rows under one another: the chosen one, the one under the pointer, and a slim bar at the right. A
+// derived list decides what the rows are and what choosing one does.
 #pragma once
 
 #include <QMouseEvent>
@@ -26,7 +26,7 @@ class RowList : public Viewed<QWidget> {
   QPoint RowMiddle(int row) const;        // in the widget's pixels
   QString RowAsDrawn(int row) const;      // cut where it does not fit
 
-  virtual void Choose(int row) = 0;  // the user clicks a row or comes to it by a key
+  virtual void Choose(int row) = 0;  // the user clicks a row or reaches it by a key
   virtual void ChooseTwice(int row) { (void)row; }
 
  protected:
@@ -46,7 +46,7 @@ class RowList : public Viewed<QWidget> {
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
-  bool has_keys_ = true;  // a row begins with a key of its own
+  bool has_keys_ = true;  // each row begins with a key
   bool joined_ = true;    // to a heading above
   QRgb edge_;
   measures::Rows measures_;

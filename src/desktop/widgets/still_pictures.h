@@ -1,4 +1,4 @@
-// Pictures that are no surface: the icon, a picture in a card.
+// Pictures that are not surfaces: the icon, a picture in a card.
 #pragma once
 
 #include "desktop/widgets/picture_widget.h"

@@ -18,7 +18,7 @@ using namespace measures;
 TabWidget::TabWidget(Host& owner, Control& shown, QWidget& parent)
     : Viewed(owner, shown, parent), life_(owner.desk, shown) {}
 
-// The widget covers both while the caption is out, and the tab alone otherwise.
+// The widget covers both while the caption is out, otherwise only the tab.
 void TabWidget::Lay() {
   ControlView::Lay();
   tab_ = Stand();

@@ -1,4 +1,4 @@
-// A small tab at the desk's edge. Under the pointer or with the keyboard its caption comes out to
+// A small tab at the desk's edge. Under the pointer or with the keyboard, its caption comes out to
 // the left; the pointer may follow it there.
 #pragma once
 

@@ -26,7 +26,7 @@ void TellState(ControlView& view) {
   QAccessible::updateAccessibility(&event);
 }
 
-// Readers speak a notice when it comes to be seen. The alert is for the systems that have one.
+// Readers speak a notice when it is shown. The alert is for the systems that have alerts.
 void Announce(ControlView& view) {
   const bool heard = QAccessible::isActive() && RoleOf(view.control) == SpokenRole::Result;
   if (!heard || view.control.Caption.Get().empty() || !view.widget.isVisible()) return;

@@ -1,4 +1,4 @@
-// What a widget tells whoever reads the screen aloud, when it happens.
+// What a widget tells a screen reader when it happens.
 #pragma once
 
 #include "controls/spoken.h"
@@ -15,9 +15,9 @@ bool IsSwitch(SpokenRole role);
 void TellState(ControlView& view);
 void Announce(ControlView& view);
 
-// Another row was chosen, -1 for none.
+// Says that another row was chosen, -1 for none.
 void TellChosen(RowList& list, int before, int now);
-// The keyboard has come to the list: the reader goes on to its row.
+// The list has got the keyboard: the reader goes on to the chosen row.
 void TellKeyboardAtRow(RowList& list);
 
 }  // namespace orvane

@@ -66,7 +66,7 @@ void TextWidget::paintEvent(QPaintEvent* event) {
   QLineEdit::paintEvent(event);
 }
 
-// Enter ends here. The toolkit would pass it up to the window, which acts on whoever has the
+// Enter ends here. The toolkit would pass it up to the window, which would act on whatever has the
 // keyboard by then.
 void TextWidget::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;

@@ -24,7 +24,7 @@ double RadiusOfBall(const Orvane_Desk& desk, int atom) {
   return desk.drawing.BallSize + (element == nullptr ? 0 : element->BallRadius);
 }
 
-// A line that is too wide goes on behind its last comma that fits.
+// A line that is too wide breaks after its last comma that fits.
 QStringList Broken(const QString& text, double most) {
   QStringList lines = text.split(u'\n');
   for (qsizetype i = 0; i < lines.size(); ++i) {

@@ -5,7 +5,7 @@
 
 namespace orvane {
 
-// nullptr for a control that is shown by its kind alone.
+// nullptr for a control whose widget depends on its kind alone.
 ControlView* MakeFurtherView(Host& window, Control& control, QWidget& parent);
 
 }  // namespace orvane

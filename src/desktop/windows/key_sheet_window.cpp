@@ -18,12 +18,12 @@ namespace {
 
 using namespace palette;
 
-// Pixels at 100 per cent. Where the screen is smaller, so is all of it.
+// Pixels at 100 per cent. On a smaller screen the whole sheet is smaller.
 constexpr int kWide = 956, kHigh = 556;
 constexpr double kTitleBand = 44, kMargin = 20, kGap = 16;
 constexpr int kColumns = 3;
 constexpr double kColumn = (kWide - 2 * kMargin - (kColumns - 1) * kGap) / kColumns;
-constexpr double kHeads = 108;  // of a column: the keys stand in it
+constexpr double kHeads = 108;  // the part of a column that holds the keys
 constexpr double kRow = 14, kHeading = 18, kAfter = 7, kSwatch = 10;
 constexpr Type kTitleType{18, 700}, kHeadingType{11, 600}, kKeyType{11, 600}, kTextType{11, 400};
 
@@ -124,7 +124,7 @@ void KeySheetWindow::Turn() {
   setFocus();
 }
 
-// As large as the window lets it be: all of it grows on a projector.
+// As large as the window allows: all of it grows on a projector.
 void KeySheetWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const double ratio = devicePixelRatioF();
@@ -148,7 +148,7 @@ void KeySheetWindow::keyPressEvent(QKeyEvent* event) {
   close();
 }
 
-// The keyboard goes back where it came from.
+// The keyboard goes back to where it came from.
 void KeySheetWindow::closeEvent(QCloseEvent* event) {
   QWidget::closeEvent(event);
   if (from_ != nullptr && from_->isVisible()) from_->activateWindow();

@@ -16,7 +16,7 @@
 namespace orvane {
 namespace {
 
-constexpr std::string_view kBehindHairline = "ExitEntry";  // leaving is set apart
+constexpr std::string_view kBehindHairline = "ExitEntry";  // the way out is set apart
 
 bool HasEntries(const Control& menu) {
   return std::ranges::any_of(menu.Owner.Controls, [&](const Control* control) {
@@ -83,7 +83,7 @@ void MenuStrip::Lay() {
   setProperty("factor", factor);
   for (QMenu* menu : std::as_const(menus_)) menu->setProperty("factor", factor);
   setGeometry(SpotOf(window_.scale, {0, 0, window_.PlanWidth(), measures::kStripTwips}, 0).Hull);
-  // Sizes of the entries hang on the factor.
+  // The sizes of the entries depend on the factor.
   QEvent changed(QEvent::StyleChange);
   QCoreApplication::sendEvent(this, &changed);
 }

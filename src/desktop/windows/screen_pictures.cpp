@@ -14,10 +14,10 @@ QSize Skin::SizeOf(Control& control) {
   return WindowOf(control.Owner).ViewOf(control)->Stand().Face.size();
 }
 
-// The control's face alone: its widget may be larger by what is painted round it. The face's corner
-// is a whole device pixel and the widget's need not be one, so the painter is moved to the face
-// before anything is painted, and each part comes onto the pixels that it has on the screen. Round
-// corners show the frame that surrounds the picture.
+// The control's face alone: its widget may be larger by what is painted around it. The face's
+// corner is a whole device pixel and the widget's need not be one, so the painter is moved to the
+// face before anything is painted. Then each part falls on the pixels that it has on the screen.
+// Round corners show the frame around the picture.
 QImage Skin::Grab(Control& source) {
   WindowWidget& window = WindowOf(source.Owner);
   const ControlView* view = window.ViewOf(source);
@@ -38,7 +38,8 @@ QImage Skin::GrabAs(Window& window, QSize size) {
   again.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);  // paper may be larger than the screen
   again.resize(static_cast<int>(std::lround(size.width() / ratio)),
                static_cast<int>(std::lround(size.height() / ratio)));
-  // A maximised window shows its plan as large as it is. A change of size would end that state.
+  // A maximised window makes its plan as large as itself. A later change of size would end that
+  // state.
   again.setWindowState(Qt::WindowMaximized);
   again.LayAll();
   const Sight::Leaving leaving(sight);

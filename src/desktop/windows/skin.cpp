@@ -14,7 +14,7 @@
 namespace orvane {
 namespace {
 
-constexpr int kBeat = 8;  // milliseconds; no screen in a classroom shows more pictures than that
+constexpr int kBeat = 8;  // milliseconds; no classroom screen shows more pictures than that
 
 // Bytes, for a window as large as a screen of 3840 by 2160 and all that stands in it.
 constexpr std::size_t kRoomForAWindow = std::size_t{40} * 1024 * 1024;

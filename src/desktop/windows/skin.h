@@ -1,4 +1,4 @@
-// The windows of the desk on the screen: hears of each change of a control and shows it.
+// Shows the windows of the desk on the screen: it hears of each change of a control and shows it.
 #pragma once
 
 #include <memory>
@@ -35,7 +35,8 @@ class Skin : public ControlWatcher, public Screen {
 
   void Changed(Control& control, Aspect aspect) override;
 
-  // Shows what the desk has on view from its start-up; the windows come and go by themselves then.
+  // Shows the windows that are visible after the start; from then on they come and go by
+  // themselves.
   void ShowWindows();
 
   // A window is made when it is first shown or asked for.
@@ -44,8 +45,8 @@ class Skin : public ControlWatcher, public Screen {
 
   void ShowKeySheet();  // or closes it
 
-  // Pictures are painted together and at most once in a screen's beat, however often they were
-  // drawn on.
+  // Pictures are painted together, and at most once in a beat of the screen, however often they
+  // were drawn on.
   void RepaintSoon(QWidget& picture);
 
   QSize SizeOf(Control& control) override;

@@ -1,4 +1,4 @@
-// A kind of control is a class of widget.
+// Makes the widget for each kind of control.
 #pragma once
 
 #include <QWidget>
@@ -7,7 +7,7 @@
 
 namespace orvane {
 
-// nullptr for kinds that are no widget: timers and menu entries.
+// nullptr for kinds without a widget: timers, menu entries and windows.
 ControlView* MakeView(Host& window, Control& control, QWidget& parent);
 
 }  // namespace orvane

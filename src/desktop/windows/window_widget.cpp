@@ -60,8 +60,8 @@ WindowWidget::WindowWidget(Skin& of, Window& window)
   setCursor(ShapeOf(shown.MousePointer));
 }
 
-// Its widgets hear that they are hidden, and what they then ask their window for must still be
-// there: the toolkit would hide them when nothing of this class is left.
+// Its widgets hear that they are hidden, and what they then ask of their window must still exist:
+// the toolkit would hide them only when nothing of this class is left.
 WindowWidget::~WindowWidget() { hide(); }
 
 void WindowWidget::MakeWidgets() {
@@ -143,7 +143,7 @@ void WindowWidget::paintEvent(QPaintEvent*) {
   QPainter(this).fillRect(rect(), QColor::fromRgba(palette::kBand));
 }
 
-// What the user or the window manager does to the size is the logic's to judge.
+// The logic decides what becomes of a size that the user or the window manager sets.
 void WindowWidget::resizeEvent(QResizeEvent* event) {
   LayAll();
   if (!event->spontaneous()) return;
@@ -203,7 +203,7 @@ void WindowWidget::StandOnScreen() {
   stood_ = true;
 }
 
-// What closing does is the logic's to say; what it hides goes by its watcher.
+// The logic decides what closing does; its watcher hides the window.
 void WindowWidget::closeEvent(QCloseEvent* event) {
   event->ignore();
   CloseWindow(desk, shown);
@@ -235,8 +235,8 @@ void WindowWidget::FloatingPanelTurned(Control& panel, bool had_keyboard) {
   SetTabOrder();
 }
 
-// The stops in their order; those of a floating panel come next to whoever had the keyboard when it
-// was opened.
+// The stops in their order; those of a floating panel come right after the control that had the
+// keyboard when the panel was opened.
 void WindowWidget::SetTabOrder() {
   std::vector<Control*> stops, floating;
   for (Control* control : shown.Controls) {

@@ -1,4 +1,4 @@
-// A window on the screen: its table walked, a widget made for each row.
+// A window on the screen: it walks its table and makes a widget for each row.
 #pragma once
 
 #include <memory>
@@ -51,15 +51,15 @@ class WindowWidget : public QWidget, public Host {
   void SetTabOrder();
   void StandOnScreen();
   void FitTheScreen();
-  void ComeToScreen();  // one that may differ from the last in size and density
+  void ComeToScreen();  // a screen that may differ from the last in size and density
   double NormalFactor() const;
   QSize NormalSize() const;
 
   Ground* desk_;
-  bool stood_ = false;  // has been on the screen before
+  bool stood_ = false;  // it has been on the screen before
   std::unordered_map<const Control*, ControlView*> views_;
   const Control* under_pointer_ = nullptr;
-  Control* panel_from_ = nullptr;  // who had the keyboard when a floating panel was opened
+  Control* panel_from_ = nullptr;  // what had the keyboard when a floating panel was opened
 };
 
 }  // namespace orvane
