@@ -33,8 +33,8 @@ class QtPlatform : public Platform {
   bool SoundIsOpen() override;
   int SoundLength() override;
 
-  Screen* screen = nullptr;                    // shows what is saved and printed
-  bool BoxIsUp() const { return boxes_ > 0; }  // meanwhile no timer ticks
+  Screen* screen = nullptr;  // shows what is saved and printed
+  bool BoxIsUp() const override { return boxes_ > 0; }
 
  private:
   std::unique_ptr<Sound> sound_;  // made when the first file is opened

@@ -25,7 +25,7 @@ QString Text(std::string_view text) {
 // The picture and the pair in its place are named by what they show, but only once a screen reader
 // listens.
 bool IsCalledByWhatItShows(const ControlView& view) {
-  const MainWindow& main = view.host.skin.desk.main;
+  const MainWindow& main = view.host.desk.main;
   return &view.control == &main.Picture1 || &view.control == &main.P_Sterio;
 }
 
