@@ -24,8 +24,8 @@ class Platform {
   virtual ~Platform() = default;
 
   virtual void Beep() = 0;
-  // Nothing here waits for the user. A box that is asked for while another is up comes after it, and
-  // the desk is held as long as one is up: no timer ticks, and no action of the user comes in.
+  // Nothing here waits for the user. A box that is asked for while another is up comes after it,
+  // and the desk is held as long as one is up: no timer ticks, and no action of the user comes in.
   virtual void MessageBox(std::string_view text) = 0;
   virtual void WarningBox(std::string_view text) = 0;  // with the exclamation icon
   virtual void FailureBox(std::string_view text) = 0;
