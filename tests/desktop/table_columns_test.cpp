@@ -36,7 +36,7 @@ TEST_F(TheSkin, ReadsNameTitleContainerAndPlace) {
   EXPECT_EQ(WidgetOf(made.Third).objectName(), "Made.Third");
   EXPECT_EQ(WidgetOf(made.Third).parentWidget(), &WidgetOf(made.Holder));
   // 75 and 90 twips within the holder at 150 and 300; 15 are a pixel.
-  const QRect expected = window.scale.Device({225, 390, 1050, 300});
+  const QRect expected = RectOf(window.scale.Device(Place{225, 390, 1050, 300}));
   EXPECT_EQ(window.ViewOf(made.Third)->Stand().Face, expected);
 }
 
