@@ -43,7 +43,8 @@ void ReplayPlatform::FailureBox(std::string_view text) {
   output_.Line("failure " + TextInQuotes(text));
 }
 
-std::optional<std::string> ReplayPlatform::InputBox(std::string_view prompt, std::string_view title) {
+std::optional<std::string> ReplayPlatform::InputBox(std::string_view prompt,
+                                                    std::string_view title) {
   output_.Line("ask " + TextInQuotes(prompt) + " " + TextInQuotes(title));
   if (Answers.empty()) return "";
   std::string answer = std::move(Answers.front());

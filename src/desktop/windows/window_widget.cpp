@@ -238,9 +238,11 @@ void WindowWidget::FloatingPanelTurned(Control& panel, bool had_keyboard) {
 // The stops in their order; those of a floating panel come right after the control that had the
 // keyboard when the panel was opened.
 void WindowWidget::SetTabOrder() {
+  // Runs while the window is made, too, so it asks this class and no derived one.
+  const auto view_of = [this](const Control& control) { return WindowWidget::ViewOf(control); };
   std::vector<Control*> stops, floating;
   for (Control* control : shown.Controls) {
-    if (control->Row.TabStop == 0 || ViewOf(*control) == nullptr) continue;
+    if (control->Row.TabStop == 0 || view_of(*control) == nullptr) continue;
     const bool floats = control->Parent != nullptr && DressOf(*control->Parent).Floats;
     (floats ? floating : stops).push_back(control);
   }
@@ -252,9 +254,9 @@ void WindowWidget::SetTabOrder() {
   const auto from = std::ranges::find(stops, panel_from_);
   stops.insert(from == stops.end() ? from : from + 1, floating.begin(), floating.end());
   for (std::size_t i = 1; i < stops.size(); ++i) {
-    QWidget::setTabOrder(&ViewOf(*stops[i - 1])->widget, &ViewOf(*stops[i])->widget);
+    QWidget::setTabOrder(&view_of(*stops[i - 1])->widget, &view_of(*stops[i])->widget);
   }
-  if (focusWidget() == nullptr && !stops.empty()) ViewOf(*stops.front())->widget.setFocus();
+  if (focusWidget() == nullptr && !stops.empty()) view_of(*stops.front())->widget.setFocus();
 }
 
 }  // namespace orvane
