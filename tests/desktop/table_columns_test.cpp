@@ -31,6 +31,7 @@ struct MadeUpAtWork : testing::Test {
 using TheSkin = MadeUpAtWork;
 
 TEST_F(TheSkin, ReadsNameTitleContainerAndPlace) {
+  skin->ShowWindows();  // a window is laid out when it comes
   WindowWidget& window = skin->WindowOf(made);
   EXPECT_EQ(window.windowTitle(), "Made up");
   EXPECT_EQ(WidgetOf(made.Third).objectName(), "Made.Third");
